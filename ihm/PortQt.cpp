@@ -1,0 +1,157 @@
+#include "ihm/PortQt.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QFontDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QProcess>
+#include <QPushButton>
+
+#include "noyau/Controles.h"
+#include "noyau/Fichiers.h"
+
+namespace orva {
+
+namespace {
+QString Q(const std::string& s) { return QString::fromStdString(s); }
+
+// "Libellé|motif|Libellé|motif" -> "Libellé (motif);;..."
+QString FiltreQt(const std::string& filtre) {
+  QStringList parts = Q(filtre).split('|');
+  QStringList r;
+  for (int i = 0; i + 1 < parts.size(); i += 2) r << parts[i] + " (" + QString(parts[i + 1]).replace(';', ' ') + ")";
+  return r.join(";;");
+}
+}  // namespace
+
+Reponse PortQt::MsgBox(const std::string& texte, Boutons boutons, Icone icone, const std::string& titre, int defaut) {
+  QMessageBox b(parent_);
+  b.setWindowTitle(Q(titre));
+  b.setText(Q(texte).replace("\r\n", "\n").replace('\r', '\n'));
+  switch (icone) {
+    case Icone::Aucune: b.setIcon(QMessageBox::NoIcon); break;
+    case Icone::Information: b.setIcon(QMessageBox::Information); break;
+    case Icone::Exclamation: b.setIcon(QMessageBox::Warning); break;
+    case Icone::Question: b.setIcon(QMessageBox::Question); break;
+    case Icone::Arret: b.setIcon(QMessageBox::Critical); break;
+  }
+  std::vector<std::pair<QAbstractButton*, Reponse>> liste;
+  auto ajoute = [&](const char* texteBouton, QMessageBox::ButtonRole role, Reponse r) {
+    liste.emplace_back(b.addButton(QString::fromUtf8(texteBouton), role), r);
+  };
+  switch (boutons) {
+    case Boutons::OK: ajoute("OK", QMessageBox::AcceptRole, Reponse::OK); break;
+    case Boutons::OKAnnuler:
+      ajoute("OK", QMessageBox::AcceptRole, Reponse::OK);
+      ajoute("Annuler", QMessageBox::RejectRole, Reponse::Annuler);
+      break;
+    case Boutons::OuiNon:
+      ajoute("&Oui", QMessageBox::YesRole, Reponse::Oui);
+      ajoute("&Non", QMessageBox::NoRole, Reponse::Non);
+      break;
+    case Boutons::OuiNonAnnuler:
+      ajoute("&Oui", QMessageBox::YesRole, Reponse::Oui);
+      ajoute("&Non", QMessageBox::NoRole, Reponse::Non);
+      ajoute("Annuler", QMessageBox::RejectRole, Reponse::Annuler);
+      break;
+  }
+  if (defaut >= 1 && defaut <= static_cast<int>(liste.size()))
+    b.setDefaultButton(qobject_cast<QPushButton*>(liste[static_cast<std::size_t>(defaut - 1)].first));
+  b.exec();
+  for (auto& [bouton, r] : liste)
+    if (b.clickedButton() == bouton) return r;
+  // Closed by the window's button: the box's escape answer.
+  return liste.size() > 1 ? liste.back().second : liste.front().second;
+}
+
+std::optional<std::string> PortQt::InputBox(const std::string& invite, const std::string& titre, const std::string& defaut) {
+  bool ok = false;
+  QString r = QInputDialog::getText(parent_, Q(titre), Q(invite), QLineEdit::Normal, Q(defaut), &ok);
+  if (!ok) return std::nullopt;
+  return r.toStdString();
+}
+
+std::optional<std::string> PortQt::DialogueFichier(const DemandeFichier& d) {
+  QString r;
+  QString depart = Q(d.Dossier.empty() ? RepertoireCourant() : d.Dossier);
+  if (d.Dossiers) {
+    r = QFileDialog::getExistingDirectory(parent_, Q(d.Titre), depart);
+  } else if (d.Sauvegarde) {
+    QFileDialog::Options o;
+    if (!d.ConfirmeEcrasement) o |= QFileDialog::DontConfirmOverwrite;
+    r = QFileDialog::getSaveFileName(parent_, Q(d.Titre), depart + "/" + Q(NomCourt(d.Nom)), FiltreQt(d.Filtre), nullptr, o);
+  } else {
+    r = QFileDialog::getOpenFileName(parent_, Q(d.Titre), depart + "/" + Q(NomCourt(d.Nom)), FiltreQt(d.Filtre));
+  }
+  if (r.isEmpty()) return std::nullopt;
+  std::string chemin = r.toStdString();
+  // As on the system's platform, the chosen file's folder becomes the current folder.
+  try {
+    ChDir(d.Dossiers ? chemin : DossierDe(chemin));
+  } catch (const ErreurExecution&) {
+  }
+  return chemin;
+}
+
+std::optional<int32_t> PortQt::DialogueCouleur(int32_t initiale) {
+  QColor c = QColorDialog::getColor(QColor(initiale & 0xFF, (initiale >> 8) & 0xFF, (initiale >> 16) & 0xFF), parent_);
+  if (!c.isValid()) return std::nullopt;
+  return c.red() | (c.green() << 8) | (c.blue() << 16);
+}
+
+std::optional<Police> PortQt::DialoguePolice(const Police& initiale) {
+  bool ok = false;
+  QFont f(Q(initiale.Nom));
+  f.setPointSizeF(initiale.Taille);
+  f.setBold(initiale.Gras);
+  f.setItalic(initiale.Italique);
+  QFont r = QFontDialog::getFont(&ok, f, parent_);
+  if (!ok) return std::nullopt;
+  Police p = initiale;
+  p.Nom = r.family().toStdString();
+  p.Taille = r.pointSizeF();
+  p.Gras = r.bold();
+  p.Italique = r.italic();
+  return p;
+}
+
+void PortQt::MontreDialogue(const std::string& nom, bool modal) {
+  // Dialog widgets come with the dialogs; until then a dialog is only state.
+  (void)nom;
+  (void)modal;
+}
+
+void PortQt::CacheDialogue(const std::string&) {}
+
+void PortQt::Sablier(bool occupe) {
+  if (occupe) QApplication::setOverrideCursor(Qt::WaitCursor);
+  else while (QApplication::overrideCursor()) QApplication::restoreOverrideCursor();
+}
+
+void PortQt::DoEvents() { QApplication::processEvents(); }
+
+void PortQt::Rafraichit(const std::string&) {
+  if (parent_) parent_->repaint();
+}
+
+void PortQt::LanceProgramme(const std::string& ligne) {
+  QStringList args = QProcess::splitCommand(Q(ligne));
+  if (args.isEmpty()) return;
+  QString prog = args.takeFirst();
+  QProcess::startDetached(prog, args);
+}
+
+void PortQt::PressePapiers(const std::vector<uint8_t>& metafichier, const std::vector<uint8_t>& png) {
+  auto* m = new QMimeData;
+  m->setData("image/x-wmf", QByteArray(reinterpret_cast<const char*>(metafichier.data()), static_cast<qsizetype>(metafichier.size())));
+  m->setData("image/png", QByteArray(reinterpret_cast<const char*>(png.data()), static_cast<qsizetype>(png.size())));
+  QApplication::clipboard()->setMimeData(m);
+}
+
+void PortQt::Quitte() { QApplication::exit(0); }
+
+}  // namespace orva

@@ -1,0 +1,43 @@
+// ORVA: the GUI by default, the scenario runner with --script, before any window exists.
+#include <QApplication>
+#include <QGuiApplication>
+#include <cstring>
+#include <iostream>
+#include <string>
+
+#include "ihm/FenetrePrincipale.h"
+#include "ihm/PortQt.h"
+#include "noyau/Demarrage.h"
+#include "noyau/Registre.h"
+#include "scenario/Scenario.h"
+
+int main(int argc, char** argv) {
+  std::string script;
+  std::string racine;
+  bool avecScript = false;
+  for (int i = 1; i < argc; ++i) {
+    if (std::strcmp(argv[i], "--script") == 0 && i + 1 < argc) {
+      avecScript = true;
+      script = argv[++i];
+    } else if (std::strcmp(argv[i], "--racine") == 0 && i + 1 < argc) {
+      racine = argv[++i];
+    } else if (std::strcmp(argv[i], "--help") == 0 || std::strcmp(argv[i], "-h") == 0) {
+      std::cout << "Usage : orva [--racine DOSSIER] [--script FICHIER|-]\n";
+      return 0;
+    }
+  }
+  if (avecScript) return orva::ExecuteScenario(script, racine);
+
+  QApplication app(argc, argv);
+  QApplication::setApplicationName("ORVA");
+  orva::EnregistreTout();
+  if (!racine.empty()) orva::CandidatsRacine = {racine};
+  orva::PortQt port;
+  orva::DefinitPort(&port);
+  orva::FenetrePrincipale fenetre;
+  port.DefinitParent(&fenetre);
+  orva::ChargePresentation();
+  fenetre.Synchronise();
+  fenetre.show();
+  return QApplication::exec();
+}

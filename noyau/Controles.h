@@ -1,0 +1,118 @@
+// Dialog state: controls as plain records that the layers read and the commands write. The GUI
+// binds widgets to them and the scenario runner finds them by name; neither holds logic.
+#pragma once
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace orva {
+
+struct Controle {
+  std::string Caption;
+  bool Enabled = true;
+  bool Visible = true;
+  std::function<void()> Click;  // the command a click runs, if any
+  virtual ~Controle() = default;
+};
+
+// Command button.
+struct Bouton : Controle {};
+
+// Check box: Value 0 or 1.
+struct CaseACocher : Controle {
+  int16_t Value = 0;
+};
+
+// Option (radio) button: Value true for the chosen one of its group.
+struct BoutonOption : Controle {
+  bool Value = false;
+};
+
+// Text box or masked edit.
+struct ZoneTexte : Controle {
+  std::string Text;
+  std::function<void()> Change;
+};
+
+// Spin button, gauge, scroll bar.
+struct Curseur : Controle {
+  long Value = 0;
+  long Min = 0;
+  long Max = 100;
+  std::function<void()> Change;
+};
+
+// List or combo; an editable combo also has its own text.
+struct Liste : Controle {
+  std::vector<std::string> Lignes;
+  int ListIndex = -1;
+  bool MultiSelect = false;
+  bool Editable = false;
+  std::vector<bool> Selected;
+  std::string Text;  // editable combo
+  std::function<void()> Change;
+  std::function<void()> DblClick;
+
+  void Clear() { Lignes.clear(); Selected.clear(); ListIndex = -1; }
+  void AddItem(const std::string& s) { Lignes.push_back(s); Selected.push_back(false); }
+  int ListCount() const { return static_cast<int>(Lignes.size()); }
+  std::string TexteSelection() const {
+    if (Editable) return Text;
+    if (ListIndex < 0 || ListIndex >= ListCount()) return {};
+    return Lignes[static_cast<std::size_t>(ListIndex)];
+  }
+};
+
+// Label or panel that only shows a text.
+struct Etiquette : Controle {};
+
+// Menu entry of the main window.
+struct EntreeMenu : Controle {
+  std::string Parent;      // name of the menu or submenu it belongs to ("" for a top menu)
+  bool Checked = false;
+  bool Disponible = true;  // false: the command is not built yet and does nothing
+};
+
+// A dialog: its caption, visibility and modality, and its controls by name.
+struct Dialogue {
+  std::string Nom;
+  std::string Caption;
+  bool Visible = false;
+  bool Modal = true;
+  long Height = 0;
+  std::function<void()> Load;  // runs once, before the first showing
+
+  void Ajoute(const std::string& nom, Controle& c) { controles_.emplace_back(nom, &c); }
+  // A control array: resolves an index to a control, nullptr when out of bounds.
+  void AjouteTableau(const std::string& nom, std::function<Controle*(int)> f) {
+    tableaux_.emplace_back(nom, std::move(f));
+  }
+  Controle* Cherche(const std::string& nom) const {
+    for (auto& [n, c] : controles_)
+      if (n == nom) return c;
+    return nullptr;
+  }
+  bool EstTableau(const std::string& nom) const {
+    for (auto& t : tableaux_)
+      if (t.first == nom) return true;
+    return false;
+  }
+  Controle* Cherche(const std::string& nom, int indice) const {
+    for (auto& [n, f] : tableaux_)
+      if (n == nom) return f(indice);
+    return nullptr;
+  }
+  const std::vector<std::pair<std::string, Controle*>>& Controles() const { return controles_; }
+
+ private:
+  std::vector<std::pair<std::string, Controle*>> controles_;
+  std::vector<std::pair<std::string, std::function<Controle*(int)>>> tableaux_;
+};
+
+// Every dialog of the program, by name (the main window "Orva" among them).
+std::vector<Dialogue*>& Dialogues();
+Dialogue* ChercheDialogue(const std::string& nom);
+
+}  // namespace orva

@@ -1,0 +1,42 @@
+// State of the main window Orva: the menu tree and its commands, the tool bar, the status bar
+// and the progress panel. The GUI builds its menus from this table; the scenario runs it.
+#pragma once
+#include <array>
+#include <deque>
+#include <string>
+
+#include "noyau/Controles.h"
+
+namespace orva {
+
+struct EtatOrva : Dialogue {
+  std::deque<EntreeMenu> Menus;              // in menu order, top menus first in their place
+  std::array<std::string, 6> StatusBar;      // panels 1..5 (0 unused)
+  std::array<Bouton, 8> BarreDOutils;        // buttons 1, 2, 4, 5, 6, 7 (0 and 3 unused)
+  bool BarreDOutilsVisible = false;
+  // The progress panel.
+  bool ProgressionVisible = false;
+  double PourcentProgression = 0;
+  // Position of the last mouse press on Ima.
+  long PressionX = 0, PressionY = 0;
+
+  EntreeMenu* Menu(const std::string& nom);
+};
+inline EtatOrva Orva;
+
+// The presentation dialog: start-up screen and about box.
+struct EtatPresentation : Dialogue {
+  Bouton Command3D1;
+};
+inline EtatPresentation Presentation;
+
+void EnregistreOrva();
+
+// Runs a menu entry by name as a click does; false when there is no such entry.
+bool ExecuteMenu(const std::string& nom);
+
+// Commands of the main window.
+void menSortie();
+void menAPropos();
+
+}  // namespace orva
