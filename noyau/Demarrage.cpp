@@ -83,10 +83,10 @@ void InitialiseOrva() {
   Etape([] {
     Ima.Height = 250;
     Ima.Width = 350;
-    Ima.FontName = "Arial";
+    Ima.Font.Nom = "Arial";
     ImaVec.Height = Ima.Height;
     ImaVec.Width = Ima.Width;
-    ImaVec.FontName = "Arial";
+    ImaVec.Font.Nom = "Arial";
     ImaVec.Visible = false;
   });
   // 3. Settings.

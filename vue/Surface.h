@@ -1,16 +1,59 @@
-// The two picture surfaces of the main window: Ima, the bitmap, and ImaVec, its vector twin.
-// Sizes are in the window's scale (millimetres); drawing inside is in pixels.
+// The picture surfaces: Ima, the bitmap on which every layer draws, ImaVec, which shows the
+// played metafile, and the small previews of the dialogs. Sizes are in the window's scale
+// (millimetres); ScaleWidth and ScaleHeight, and all drawing, are in pixels (96 per inch).
 #pragma once
+#include <QImage>
+#include <memory>
 #include <string>
+
+#include "vue/Contexte.h"
 
 namespace orva {
 
 struct SurfaceImage {
+  // Geometry.
   double Height = 0;  // millimetres
   double Width = 0;
-  std::string FontName;
+  double ScaleHeight() const;  // pixels
+  double ScaleWidth() const;
   bool Visible = true;
+  bool AutoRedraw = true;
+  // Drawing state; the current pen of hDC is ForeColor/DrawWidth/DrawStyle, its brush
+  // FillColor/FillStyle, unless a routine selected objects of its own.
+  Couleur ForeColor = 0;
+  Couleur BackColor = 0xFFFFFF;
+  Couleur FillColor = 0;
+  int FillStyle = 1;  // 0 solid, 1 transparent
+  int DrawWidth = 1;
+  int DrawStyle = 0;  // 0 solid, 2 dotted
+  int DrawMode = 13;
+  double CurrentX = 0, CurrentY = 0;
+  DescriptionPolice Font;
+
+  // The device context of the surface: its raster context, or a context put in its place by a
+  // test (journal).
+  Contexte* hDC();
+  void DefinitContexte(Contexte* c);  // nullptr: back to the raster context
+
+  // Clear to BackColor; make visible; segment or box (B: outline, BF: filled with the line
+  // colour); circle with FillStyle/FillColor; text at CurrentX/Y.
+  void Cls();
+  void Refresh();
+  void Line(double x1, double y1, double x2, double y2, Couleur c, bool boite = false, bool pleine = false);
+  void Circle(double x, double y, double r, Couleur c);
+  void Print(const std::string& texte);
+
+  // The bitmap kept by AutoRedraw (the size follows Width and Height).
+  const QImage& Image();
+
+  SurfaceImage();
+  ~SurfaceImage();
+  SurfaceImage(const SurfaceImage&) = delete;
+  SurfaceImage& operator=(const SurfaceImage&) = delete;
+  struct Interne;
+  std::unique_ptr<Interne> interne_;
 };
+
 inline SurfaceImage Ima;
 inline SurfaceImage ImaVec;
 
