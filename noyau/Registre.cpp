@@ -8,6 +8,7 @@
 #include "noyau/Orva.h"
 #include "relief/OptionsRelief.h"
 #include "vue/Angles.h"
+#include "vue/Enregistrement.h"
 #include "vue/TraceArcs.h"
 
 namespace orva {
@@ -134,6 +135,9 @@ void EnregistreTout() {
   EnregistreFrmAnamorphose();
   EnregistreTraceArcs();
   EnregistreOptionsRelief();
+  EnregistreDessin();
+  EnregistreVueNoeuds();
+  EnregistreVueArcs();
 }
 
 }  // namespace orva

@@ -6,3 +6,9 @@ namespace orva {
 void TraceLesNoeuds(bool, bool) {}
 
 }  // namespace orva
+
+#include "vue/Enregistrement.h"
+
+namespace orva {
+void EnregistreVueNoeuds() {}
+}  // namespace orva

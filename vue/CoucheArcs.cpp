@@ -1,0 +1,5 @@
+#include "vue/Enregistrement.h"
+
+namespace orva {
+void EnregistreVueArcs() {}
+}  // namespace orva
