@@ -8,7 +8,10 @@
 #include "noyau/Orva.h"
 #include "relief/OptionsRelief.h"
 #include "vue/Angles.h"
+#include "vue/Projection.h"
 #include "vue/Enregistrement.h"
+#include "vue/ParamAffichage.h"
+#include "vue/Souris.h"
 #include "vue/TraceArcs.h"
 
 namespace orva {
@@ -56,7 +59,7 @@ void EnregistreReglagesReseau() {
   R(FichierNoeuds); R(FichierArcs); R(FichierComparaison); R(FichierArcVal1); R(FichierArcVal2);
   R(FichierNoeudVal1); R(FichierNoeudVal2); R(FichierRapport);
   R(FormatLong); R(SeparateurDecimal); R(AjoutArcs); R(AnnuleTrace); R(EliminerDeconnectes);
-  R(MetaFichierFerme); R(OptionsReliefAnnule);
+  R(MetaFichierFerme); R(OptionsReliefAnnule); R(InclinaisonDonnees); R(PointeurIma);
 #undef R
   for (int i = 0; i < 3; ++i)
     EnregistreReglage("DirectionLumiere(" + std::to_string(i) + ")", DirectionLumiere[static_cast<std::size_t>(i)]);
@@ -135,6 +138,8 @@ void EnregistreTout() {
   EnregistreFrmAnamorphose();
   EnregistreTraceArcs();
   EnregistreOptionsRelief();
+  EnregistreParamAffichage();
+  EnregistreSouris();
   EnregistreDessin();
   EnregistreVueNoeuds();
   EnregistreVueArcs();

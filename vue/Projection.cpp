@@ -5,6 +5,8 @@
 
 #include "noyau/Chaines.h"
 #include "noyau/Def.h"
+#include "vue/CoucheNoeuds.h"
+#include "vue/Surface.h"
 
 namespace orva {
 
@@ -80,6 +82,91 @@ void Projette() {
   TourneVue(Rotation, NoeudCentre);
   InclineVue(Inclinaison);
   TrieNoeudsProfondeur();
+}
+
+void ZoomeVers(double x, double y, int bouton, int maj) {
+  double meilleure = 100000000;
+  long code = 0;
+  for (long i = 1; i <= NbNoeuds; ++i) {
+    const Noeud& n = Noeuds[i];
+    double dx = std::fabs(n.XEcran - x), dy = std::fabs(n.YEcran - y);
+    double d = std::sqrt(dx * dx + dy * dy);
+    if (d < meilleure) {
+      meilleure = d;
+      code = n.Code;
+    }
+  }
+  double facteur = bouton == 1 ? (maj == 2 ? 1.3 : 1.05) : (maj == 2 ? 0.7 : 0.95);
+  EchelleVue = EchelleVue * facteur;
+  Ima.Cls();
+  RecentreSurNoeud(code, 0);
+}
+
+namespace {
+void TroisEtapes() {
+  CalculeCoordonneesEcran();
+  TourneVue(Rotation, NoeudCentre);
+  InclineVue(Inclinaison);
+}
+
+// Digits two and three "16" and digit four not "0": codes whose other end is read from the
+// reverse side first.
+bool CodeInverse(long code) {
+  std::string t = std::to_string(code);
+  return t.size() >= 4 && t.substr(1, 2) == "16" && t[3] != '0';
+}
+}  // namespace
+
+void RecentreSurNoeud(long code, int restreint) {
+  double diviseur = 2;
+  if (restreint >= 1) {
+    for (long k = 1; k <= NbNoeuds; ++k) {
+      long i = OrdreNoeuds[k];
+      Noeuds[i].Actif = Noeuds[i].Code == code ? Vrai : Faux;
+    }
+    for (long a = 1; a <= NbArcs; ++a) {
+      const Arc& arc = Arcs[a];
+      bool inverse = CodeInverse(arc.CodeOrigine) || CodeInverse(arc.CodeDestination);
+      if (inverse) {
+        if (arc.CodeDestination == code) Noeuds[arc.IndiceOrigine].Actif = Vrai;
+        else if (arc.CodeOrigine == code) Noeuds[arc.IndiceDestination].Actif = Vrai;
+      } else {
+        if (arc.CodeOrigine == code) Noeuds[arc.IndiceDestination].Actif = Vrai;
+        else if (arc.CodeDestination == code) Noeuds[arc.IndiceOrigine].Actif = Vrai;
+      }
+    }
+    diviseur = 4;
+  }
+  // Walks from 1 until found: a code found nowhere runs out of the table (error 9).
+  long i = 1;
+  while (Noeuds[i].Code != code) ++i;
+  TroisEtapes();
+  const double W = Ima.ScaleWidth() / 2;
+  const double H = Ima.ScaleHeight() / diviseur;
+  const double tolerance = 5;
+  int compteur = 0;
+  while (true) {
+    ++compteur;
+    bool fini = true;
+    const Noeud& n = Noeuds[i];
+    double x = n.XEcran, y = n.YEcran;
+    if (x < W - tolerance || x > W + tolerance) {
+      fini = false;
+      DecalageX = DecalageX + W - x;
+      DecalageY = DecalageY + H - y;
+      TroisEtapes();
+    } else if (y < H - tolerance || y > H + tolerance) {
+      fini = false;
+      DecalageX = DecalageX + x - W;
+      DecalageY = DecalageY + H - y;
+      TroisEtapes();
+    }
+    if (compteur > 50) fini = true;
+    if (fini) {
+      TraceLesNoeuds(true, true);
+      return;
+    }
+  }
 }
 
 }  // namespace orva

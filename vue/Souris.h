@@ -1,0 +1,19 @@
+// The mouse on Ima, the zoom tool bar and the two zoom entries of the menu.
+#pragma once
+
+namespace orva {
+
+// Mouse pointer of Ima: 1 arrow, 2 cross (zoom by click).
+inline int PointeurIma = 1;
+
+void ImaMouseDown(int bouton, int maj, double x, double y);
+void ImaMouseMove(int bouton, int maj, double x, double y);
+void ImaMouseUp(int bouton, int maj, double x, double y);
+// Tool bar button n (1, 2, 4, 5, 6, 7).
+void BarreDOutilsClic(int n);
+void menZoomSouris();
+void menZoomBarreOutils();
+
+void EnregistreSouris();
+
+}  // namespace orva
