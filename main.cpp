@@ -5,6 +5,7 @@
 #include <iostream>
 #include <string>
 
+#include "ihm/DialogueQt.h"
 #include "ihm/FenetrePrincipale.h"
 #include "ihm/PortQt.h"
 #include "noyau/Demarrage.h"
@@ -36,6 +37,8 @@ int main(int argc, char** argv) {
   orva::DefinitPort(&port);
   orva::FenetrePrincipale fenetre;
   port.DefinitParent(&fenetre);
+  port.Repeint = [&fenetre](const std::string& c) { fenetre.Repeint(c); };
+  orva::DialogueQt::ApresAction = [&fenetre] { fenetre.Synchronise(); };
   orva::ChargePresentation();
   fenetre.Synchronise();
   fenetre.show();

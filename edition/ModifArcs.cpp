@@ -10,7 +10,7 @@ void EnregistreModifArcs() {
   d.Caption = "Modification des arcs";
   d.Modal = false;
   d.Height = 2595;
-  d.ListeModifiable1.Editable = false;
+  d.ListeModifiable1.Combo = d.ListeModifiable2.Combo = d.ListeModifiable3.Combo = true;
   d.Ajoute("ListeModifiable1", d.ListeModifiable1);
   d.Ajoute("ListeModifiable2", d.ListeModifiable2);
   d.Ajoute("ListeModifiable3", d.ListeModifiable3);

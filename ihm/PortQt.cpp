@@ -11,6 +11,7 @@
 #include <QProcess>
 #include <QPushButton>
 
+#include "ihm/DialogueQt.h"
 #include "noyau/Controles.h"
 #include "noyau/Fichiers.h"
 
@@ -120,12 +121,26 @@ std::optional<Police> PortQt::DialoguePolice(const Police& initiale) {
 }
 
 void PortQt::MontreDialogue(const std::string& nom, bool modal) {
-  // Dialog widgets come with the dialogs; until then a dialog is only state.
-  (void)nom;
-  (void)modal;
+  if (nom == "Orva") return;  // the main window shows itself
+  DialogueQt* d = DialogueDe(nom, parent_);
+  if (!d) return;
+  d->Synchronise();
+  if (modal) {
+    // Runs until a command of the dialog hides it.
+    while (d->Etat().Visible) d->exec();
+  } else {
+    d->show();
+    d->raise();
+  }
 }
 
-void PortQt::CacheDialogue(const std::string&) {}
+void PortQt::CacheDialogue(const std::string& nom) {
+  DialogueQt* d = DialogueDe(nom, parent_);
+  if (d && d->isVisible()) {
+    if (d->isModal()) d->done(0);
+    else d->hide();
+  }
+}
 
 void PortQt::Sablier(bool occupe) {
   if (occupe) QApplication::setOverrideCursor(Qt::WaitCursor);
@@ -134,8 +149,8 @@ void PortQt::Sablier(bool occupe) {
 
 void PortQt::DoEvents() { QApplication::processEvents(); }
 
-void PortQt::Rafraichit(const std::string&) {
-  if (parent_) parent_->repaint();
+void PortQt::Rafraichit(const std::string& controle) {
+  if (Repeint) Repeint(controle);
 }
 
 void PortQt::LanceProgramme(const std::string& ligne) {

@@ -1,6 +1,7 @@
 // The platform port on Qt widgets.
 #pragma once
 #include <QWidget>
+#include <functional>
 
 #include "noyau/Plateforme.h"
 
@@ -10,6 +11,8 @@ class PortQt : public Plateforme {
  public:
   explicit PortQt(QWidget* parent = nullptr) : parent_(parent) {}
   void DefinitParent(QWidget* p) { parent_ = p; }
+  // What a repaint of a control does in the window (set by the main window).
+  std::function<void(const std::string&)> Repeint;
   Reponse MsgBox(const std::string& texte, Boutons boutons, Icone icone, const std::string& titre,
                  int defaut) override;
   std::optional<std::string> InputBox(const std::string& invite, const std::string& titre,

@@ -49,7 +49,8 @@ struct Liste : Controle {
   std::vector<std::string> Lignes;
   int ListIndex = -1;
   bool MultiSelect = false;
-  bool Editable = false;
+  bool Combo = false;     // drop-down combo rather than an open list
+  bool Editable = false;  // combo whose text can be typed
   std::vector<bool> Selected;
   std::string Text;  // editable combo
   std::function<void()> Change;
@@ -105,6 +106,12 @@ struct Dialogue {
     return nullptr;
   }
   const std::vector<std::pair<std::string, Controle*>>& Controles() const { return controles_; }
+  // Names of the control arrays; their elements are found with Cherche(nom, i).
+  std::vector<std::string> NomsTableaux() const {
+    std::vector<std::string> r;
+    for (auto& t : tableaux_) r.push_back(t.first);
+    return r;
+  }
 
  private:
   std::vector<std::pair<std::string, Controle*>> controles_;

@@ -41,6 +41,7 @@ void EnregistreAngles() {
   d.Spin3.Max = 180;
   d.Gauge3.Max = 360;
   d.Gauge3.Value = 180;
+  d.ListeModifiable1.Combo = true;
   d.ListeModifiable1.Editable = true;
   d.Option1.Caption = "Trie les villes";
   d.Coche1.Caption = "Seulement les données";
