@@ -1,46 +1,186 @@
 #include "vue/Surface.h"
 
+#include <QPainter>
+#include <algorithm>
 #include <cmath>
+#include <optional>
+
+#include "noyau/Plateforme.h"
+#include "vue/ContexteRaster.h"
 
 namespace orva {
 
 namespace {
-// A context that draws nothing, until the raster context lands.
-class ContexteMuet : public Contexte {
- public:
-  Objet SelectObject(Objet) override { return 0; }
-  Objet GetStockObject(int) override { return 0; }
-  void MoveToEx(int, int) override {}
-  void LineTo(int, int) override {}
-  void Polyline(const std::vector<PointI>&) override {}
-  void Polygon(const std::vector<PointI>&) override {}
-  void Ellipse(int, int, int, int) override {}
-  void Rectangle(int, int, int, int) override {}
-  void TextOut(int, int, const std::string&) override {}
-  void SetWindowExt(int, int) override {}
-  void SetMapMode(int) override {}
-};
+
+constexpr int kPixelsMax = 16000;  // beyond, a surface is not allocated
+
+// A coordinate of the surface becomes a device integer: nearest, ties to even; out of range
+// values are held at the edge of what the device takes.
+int Entier(double v) {
+  if (std::isnan(v)) return 0;
+  return static_cast<int>(std::nearbyint(std::clamp(v, -1.0e9, 1.0e9)));
+}
+
+int Pixels(double mm) {
+  double p = std::round(mm * 96.0 / 25.4);
+  if (!(p > 0)) return 0;
+  return static_cast<int>(std::min(p, static_cast<double>(kPixelsMax)));
+}
+
 }  // namespace
 
 struct SurfaceImage::Interne {
-  ContexteMuet muet;
-  Contexte* remplacant = nullptr;
   QImage image;
+  ContexteRaster raster{&image};
+  Contexte* remplacant = nullptr;
+  Objet stylo = 0, brosse = 0, police = 0;
+  // The pen and brush of Line and Circle, which take a colour of their own.
+  std::optional<ObjetGdi> styloForce, brosseForce;
 };
 
-SurfaceImage::SurfaceImage() : interne_(std::make_unique<Interne>()) {}
+SurfaceImage::SurfaceImage(std::string nom) : Nom(std::move(nom)), interne_(std::make_unique<Interne>()) {
+  Interne* in = interne_.get();
+  in->stylo = CreeObjetVivant(GenreObjet::Stylo, [this, in] {
+    if (in->styloForce) return *in->styloForce;
+    ObjetGdi o;
+    o.Genre = GenreObjet::Stylo;
+    o.Style = DrawStyle;
+    o.Largeur = std::max(DrawWidth, 1);
+    o.Couleur_ = ForeColor;
+    return o;
+  });
+  in->brosse = CreeObjetVivant(GenreObjet::Brosse, [this, in] {
+    if (in->brosseForce) return *in->brosseForce;
+    ObjetGdi o;
+    o.Genre = GenreObjet::Brosse;
+    o.Style = FillStyle == 0 ? BrossePleine : BrosseNulle;
+    o.Couleur_ = FillColor;
+    return o;
+  });
+  in->police = CreeObjetVivant(GenreObjet::Police, [this] {
+    ObjetGdi o;
+    o.Genre = GenreObjet::Police;
+    o.Police = Font;
+    return o;
+  });
+  in->raster.AdopteObjets(in->stylo, in->brosse, in->police, [this] { return ForeColor; });
+}
+
+// The objects of the table stay: they live as long as the process, and the surfaces are globals.
 SurfaceImage::~SurfaceImage() = default;
 
 double SurfaceImage::ScaleHeight() const { return std::round(Height * 96.0 / 25.4); }
 double SurfaceImage::ScaleWidth() const { return std::round(Width * 96.0 / 25.4); }
 
-Contexte* SurfaceImage::hDC() { return interne_->remplacant ? interne_->remplacant : &interne_->muet; }
-void SurfaceImage::DefinitContexte(Contexte* c) { interne_->remplacant = c; }
-void SurfaceImage::Cls() {}
-void SurfaceImage::Refresh() {}
-void SurfaceImage::Line(double, double, double, double, Couleur, bool, bool) {}
-void SurfaceImage::Circle(double, double, double, Couleur) {}
-void SurfaceImage::Print(const std::string&) {}
-const QImage& SurfaceImage::Image() { return interne_->image; }
+const QImage& SurfaceImage::Image() {
+  QImage& im = interne_->image;
+  int l = Pixels(Width), h = Pixels(Height);
+  if (im.width() != l || im.height() != h) {
+    QImage nouvelle;
+    if (l > 0 && h > 0) {
+      nouvelle = QImage(l, h, QImage::Format_RGB32);
+      if (!nouvelle.isNull()) {
+        nouvelle.fill(QColor::fromRgb(VersRgbQt(BackColor)));
+        if (!im.isNull()) {
+          QPainter p(&nouvelle);
+          p.drawImage(0, 0, im);
+        }
+      }
+    }
+    im = nouvelle;  // the raster context keeps drawing on the same QImage object
+  }
+  return im;
+}
+
+Contexte* SurfaceImage::hDC() {
+  if (interne_->remplacant) return interne_->remplacant;
+  Image();
+  return &interne_->raster;
+}
+
+void SurfaceImage::DefinitContexte(Contexte* c) {
+  interne_->remplacant = c;
+  if (c) c->AdopteObjets(interne_->stylo, interne_->brosse, interne_->police, [this] { return ForeColor; });
+}
+
+void SurfaceImage::Cls() {
+  Image();
+  QImage& im = interne_->image;
+  if (!im.isNull()) im.fill(QColor::fromRgb(VersRgbQt(BackColor)));
+  CurrentX = CurrentY = 0;
+}
+
+void SurfaceImage::Refresh() {
+  if (!Nom.empty()) Port().Rafraichit(Nom);
+}
+
+void SurfaceImage::Line(double x1, double y1, double x2, double y2, Couleur c, bool boite, bool pleine) {
+  Interne& in = *interne_;
+  ObjetGdi s;
+  s.Genre = GenreObjet::Stylo;
+  s.Style = DrawStyle;
+  s.Largeur = std::max(DrawWidth, 1);
+  s.Couleur_ = c;
+  in.styloForce = s;
+  Contexte* dc = hDC();
+  if (boite) {
+    ObjetGdi b;
+    b.Genre = GenreObjet::Brosse;
+    b.Style = pleine ? BrossePleine : BrosseNulle;
+    b.Couleur_ = c;
+    in.brosseForce = b;
+    dc->Rectangle(Entier(x1), Entier(y1), Entier(x2), Entier(y2));
+  } else {
+    dc->MoveToEx(Entier(x1), Entier(y1));
+    dc->LineTo(Entier(x2), Entier(y2));
+  }
+  in.styloForce.reset();
+  in.brosseForce.reset();
+  CurrentX = x2;
+  CurrentY = y2;
+}
+
+void SurfaceImage::Circle(double x, double y, double r, Couleur c) {
+  Interne& in = *interne_;
+  ObjetGdi s;
+  s.Genre = GenreObjet::Stylo;
+  s.Style = DrawStyle;
+  s.Largeur = std::max(DrawWidth, 1);
+  s.Couleur_ = c;
+  in.styloForce = s;
+  hDC()->Ellipse(Entier(x - r), Entier(y - r), Entier(x + r), Entier(y + r));
+  in.styloForce.reset();
+  CurrentX = x;
+  CurrentY = y;
+}
+
+// The text at CurrentX, CurrentY; the next line starts at the left edge, one line lower (the
+// line spacing of the font, 1.15 times its height).
+void SurfaceImage::Print(const std::string& texte) {
+  hDC()->TextOut(Entier(CurrentX), Entier(CurrentY), texte);
+  int hauteur = Font.Hauteur == 0 ? 11 : std::abs(Font.Hauteur);
+  CurrentX = 0;
+  CurrentY += std::round(hauteur * 1.15);
+}
+
+void SurfaceImage::Reinitialise() {
+  Height = Width = 0;
+  Visible = true;
+  AutoRedraw = true;
+  ForeColor = 0;
+  BackColor = 0xFFFFFF;
+  FillColor = 0;
+  FillStyle = 1;
+  DrawWidth = 1;
+  DrawStyle = 0;
+  DrawMode = 13;
+  CurrentX = CurrentY = 0;
+  Font = DescriptionPolice{};
+  interne_->image = QImage();
+  interne_->styloForce.reset();
+  interne_->brosseForce.reset();
+  DefinitContexte(nullptr);
+  interne_->raster.AdopteObjets(interne_->stylo, interne_->brosse, interne_->police, [this] { return ForeColor; });
+}
 
 }  // namespace orva

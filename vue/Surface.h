@@ -1,6 +1,12 @@
 // The picture surfaces: Ima, the bitmap on which every layer draws, ImaVec, which shows the
 // played metafile, and the small previews of the dialogs. Sizes are in the window's scale
 // (millimetres); ScaleWidth and ScaleHeight, and all drawing, are in pixels (96 per inch).
+//
+// The pen, brush and font of hDC are the surface's own objects, read from its properties at
+// each use: ForeColor/DrawWidth/DrawStyle make the pen, FillColor/FillStyle the brush (FillStyle
+// 0 solid, otherwise hollow), Font the font, ForeColor the colour of text. A routine that selects
+// objects of its own in hDC puts the old ones back when it is done (SelectObject returns them),
+// and the surface's properties are in force again.
 #pragma once
 #include <QImage>
 #include <memory>
@@ -14,7 +20,7 @@ struct SurfaceImage {
   // Geometry.
   double Height = 0;  // millimetres
   double Width = 0;
-  double ScaleHeight() const;  // pixels
+  double ScaleHeight() const;  // pixels: Height x 96 / 25.4, rounded
   double ScaleWidth() const;
   bool Visible = true;
   bool AutoRedraw = true;
@@ -29,9 +35,10 @@ struct SurfaceImage {
   int DrawMode = 13;
   double CurrentX = 0, CurrentY = 0;
   DescriptionPolice Font;
+  std::string Nom;  // the control's name, for Refresh
 
   // The device context of the surface: its raster context, or a context put in its place by a
-  // test (journal).
+  // test (journal). The surface's own pen, brush and font are given to the context put in.
   Contexte* hDC();
   void DefinitContexte(Contexte* c);  // nullptr: back to the raster context
 
@@ -40,13 +47,18 @@ struct SurfaceImage {
   void Cls();
   void Refresh();
   void Line(double x1, double y1, double x2, double y2, Couleur c, bool boite = false, bool pleine = false);
+  void Line(double x1, double y1, double x2, double y2) { Line(x1, y1, x2, y2, ForeColor); }
   void Circle(double x, double y, double r, Couleur c);
   void Print(const std::string& texte);
 
-  // The bitmap kept by AutoRedraw (the size follows Width and Height).
+  // The bitmap kept by AutoRedraw (the size follows Width and Height; what was drawn stays in
+  // the top-left corner when the size changes).
   const QImage& Image();
 
-  SurfaceImage();
+  // Every property back to its value before start-up, an empty bitmap, the raster context.
+  void Reinitialise();
+
+  explicit SurfaceImage(std::string nom = "");
   ~SurfaceImage();
   SurfaceImage(const SurfaceImage&) = delete;
   SurfaceImage& operator=(const SurfaceImage&) = delete;
@@ -54,7 +66,7 @@ struct SurfaceImage {
   std::unique_ptr<Interne> interne_;
 };
 
-inline SurfaceImage Ima;
-inline SurfaceImage ImaVec;
+inline SurfaceImage Ima{"Ima"};
+inline SurfaceImage ImaVec{"ImaVec"};
 
 }  // namespace orva
