@@ -1,16 +1,79 @@
 #include "scenario/Scenario.h"
 
+#include <QGuiApplication>
+#include <QImage>
+#include <QString>
 #include <fstream>
 #include <iostream>
 
+#include "graphe/FichiersArcs.h"
+#include "graphe/FichiersNoeuds.h"
+#include "graphe/Modes.h"
+#include "noyau/Demarrage.h"
+#include "noyau/Fichiers.h"
+#include "scenario/Executeur.h"
+#include "vue/Projection.h"
+#include "vue/Souris.h"
+#include "vue/Surface.h"
+
 namespace orva {
 
-int ExecuteScenario(std::istream&, std::ostream&, const std::string&, const std::string&) { return 0; }
+std::map<std::string, std::function<void()>>& Routines() {
+  static std::map<std::string, std::function<void()>> m;
+  return m;
+}
+
+void EnregistreRoutines() {
+  auto& r = Routines();
+  r.emplace("ImplementeIndicesArcs", [] { ImplementeIndicesArcs(); });
+  r.emplace("DefinitOrientationArcs", [] { DefinitOrientationArcs(); });
+  r.emplace("DefinitModesNoeuds", [] { DefinitModesNoeuds(); });
+  r.emplace("RecenseModesPresents", [] { RecenseModesPresents(); });
+  r.emplace("CalculeCoordonneesEcran", [] { CalculeCoordonneesEcran(); });
+  r.emplace("TrieNoeudsProfondeur", [] { TrieNoeudsProfondeur(); });
+  r.emplace("RempliListesNoeuds", [] { RempliListesNoeuds(); });
+  r.emplace("InitialiseOrva", [] { InitialiseOrva(); });
+}
+
+void InstalleCrochetsParDefaut() {
+  if (!CrochetSourisEnfoncee) CrochetSourisEnfoncee = ImaMouseDown;
+  if (!CrochetSourisDeplacee) CrochetSourisDeplacee = ImaMouseMove;
+  if (!CrochetSourisRelachee) CrochetSourisRelachee = ImaMouseUp;
+  // The bitmap is there once the view draws into one.
+  if (!CrochetImage && !Ima.Image().isNull())
+    CrochetImage = [](const std::string& fichier) { return Ima.Image().save(QString::fromStdString(fichier)); };
+}
+
+int ExecuteScenario(std::istream& scenario, std::ostream& sortie, const std::string& racine,
+                    const std::string& dossierDepart) {
+  try {
+    Executeur e(sortie, dossierDepart);
+    e.Lit(scenario);
+    e.Demarre(racine);
+    e.Execute();
+    return e.Termine();
+  } catch (const std::exception& e) {
+    std::cerr << "orva : " << e.what() << '\n';
+    return 2;
+  }
+}
 
 int ExecuteScenario(const std::string& fichier, const std::string& racine) {
-  if (fichier == "-") return ExecuteScenario(std::cin, std::cout, racine, ".");
-  std::ifstream f(fichier);
-  return ExecuteScenario(f, std::cout, racine, ".");
+  // No window and no display: the pictures and fonts of Qt on the offscreen platform.
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  int argc = 1;
+  char nom[] = "orva";
+  char* argv[] = {nom, nullptr};
+  QGuiApplication application(argc, argv);
+  const std::string depart = RepertoireCourant();
+  if (fichier == "-") return ExecuteScenario(std::cin, std::cout, racine, depart);
+  std::ifstream f(fichier, std::ios::binary);
+  if (!f) {
+    std::cerr << "orva : impossible de lire le scénario " << fichier << '\n';
+    Evenements(std::cout).Erreur(0, "scénario illisible : " + fichier);
+    return 2;
+  }
+  return ExecuteScenario(f, std::cout, racine, depart);
 }
 
 }  // namespace orva

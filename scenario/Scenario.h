@@ -1,6 +1,8 @@
 // The scenario runner: `orva --script FILE [--racine DIR]`.
 #pragma once
+#include <functional>
 #include <iosfwd>
+#include <map>
 #include <string>
 
 namespace orva {
@@ -8,8 +10,28 @@ namespace orva {
 // Runs the scenario of `fichier` ("-" for standard input) and returns the exit status: 0 when no
 // line gave an `erreur` event, else 2. Events go to standard output, one JSON object a line.
 int ExecuteScenario(const std::string& fichier, const std::string& racine);
-// The same on a stream and an output, for tests.
+// The same on a stream and an output, for tests. `dossierDepart` is the folder relative paths of
+// the scenario are taken from (the current folder when empty).
 int ExecuteScenario(std::istream& scenario, std::ostream& sortie, const std::string& racine,
                     const std::string& dossierDepart);
+
+// Public operations that no menu or button reaches, run by a scenario line that names them.
+std::map<std::string, std::function<void()>>& Routines();
+// Registers the routines of the subsystems that exist; leaves entries already there.
+void EnregistreRoutines();
+
+// Hooks through which the scenario reaches the picture Ima; the view fills them.
+// `image FICHIER`: writes the present bitmap of Ima (format from the extension); false on failure.
+inline std::function<bool(const std::string& fichier)> CrochetImage;
+// `metafichier FICHIER L H`: writes the present MetaFichier as a placeable metafile of extent L x H.
+inline std::function<bool(const std::string& fichier, long largeur, long hauteur)> CrochetMetafichier;
+// Mouse on Ima: button (1 left, 2 right, 4 middle, 0 none), shift state (2 for Ctrl), pixel x, y.
+using GestionSouris = std::function<void(int bouton, int maj, double x, double y)>;
+inline GestionSouris CrochetSourisEnfoncee;
+inline GestionSouris CrochetSourisDeplacee;
+inline GestionSouris CrochetSourisRelachee;
+// Fills the hooks that are still empty with the view's handlers: the mouse handlers of Ima, and,
+// once Ima has a bitmap, its writing in the format of the file name's extension.
+void InstalleCrochetsParDefaut();
 
 }  // namespace orva
