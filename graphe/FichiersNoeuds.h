@@ -19,7 +19,9 @@ void ChargeNoeudsCourt(std::istream& in, const std::string& nom);
 // frmAnamorphose): a blank row, then the first 15 characters of each Nom.
 void RempliListesNoeuds();
 
-// Write Noeuds to `nom`, replacing it.
+// Write Noeuds to `nom`, replacing it (reads Noeuds, NbNoeuds; the short writer also NomsCourts
+// and FichierNoeuds for its divider). Kept asymmetries: a negative coordinate shifts the long
+// line; the short layout moves NomsCourts two columns right on each round trip.
 void EcritNoeudsLong(const std::string& nom);
 void EcritNoeudsCourt(const std::string& nom);
 void EcritNoeudsLong(std::ostream& out);
@@ -29,7 +31,10 @@ void EcritNoeudsCourt(std::ostream& out);
 // "28.DAT", "28.dat"), 1000 for the others.
 int Multiplicateur(const std::string& nom);
 
-// Commands.
+// Commands. The first two choose a file through the file dialog (RepertoireNoeuds/FichierNoeuds,
+// RepertoireArcs/FichierArcs) and load nothing; the third chooses both, loads them by FormatLong
+// and runs the projection, the index passes, the mode sets and the node layer. A cancelled
+// dialog raises the cancel error, which the command's handler absorbs.
 void menFichierVilles();
 void menFichierOriginesDestinations();
 void menFichiersGraphe();
