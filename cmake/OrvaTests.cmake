@@ -9,6 +9,7 @@ function(orva_add_test nom)
   target_link_libraries(${nom} PRIVATE orvalogique GTest::gtest GTest::gtest_main orva_options ${T_LIBS})
   target_compile_definitions(${nom} PRIVATE ORVA_TESTS_DIR="${CMAKE_SOURCE_DIR}/tests")
   gtest_discover_tests(${nom}
+    TEST_PREFIX "${nom}."
     PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C;ORVA_BIN=$<TARGET_FILE:orva>"
     DISCOVERY_TIMEOUT 60)
 endfunction()
