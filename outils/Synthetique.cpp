@@ -290,8 +290,10 @@ void EcritFichiersCasses(const std::string& dossier) {
           "node values: times (the \":\" layout), a broken time, a short line");
   fichier("noeudval_un_champ.dat", {"    330001", "    330002"}, "node values: one field a line");
   {
+    static const char kOctets[] = "\x00\x01\xff\xfe PARIS\r\rLYON\n\xc3(\xa9\x80\r\n";
     std::ofstream f = Ouvre(Chemin(dossier, "binaire.dat"));
-    f << std::string("\x00\x01\xff\xfe PARIS\r\rLYON\n\xc3(\xa9\x80\r\n", 27) << std::string(20000, 'Z') << '\x1a';
+    f.write(kOctets, sizeof kOctets - 1);
+    f << std::string(20000, 'Z') << '\x1a';
   }
   liste.emplace_back("binaire.dat", "any reader: NUL bytes, invalid UTF-8, lone CR, a line of 20000 characters, no line end");
 
