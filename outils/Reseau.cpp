@@ -1,6 +1,6 @@
-// The standard European network: its 157 towns and its arcs in seven modes.
+// The networks of the data tree: the standard European one (157 towns, arcs in seven modes) and
+// the regional one of the short profile.
 #include <algorithm>
-#include <cstdio>
 #include <map>
 #include <numeric>
 #include <set>
@@ -21,8 +21,8 @@ const std::map<std::string, int>& Indicatifs() {
   return m;
 }
 
-// Names in the node file where GeoNames gives an English exonym or a double name: the
-// country's own name, so that the map reads as the road signs do.
+// Names in the node file where GeoNames gives an English exonym, a double name or an old
+// spelling: the country's own name, as the road signs read.
 const std::map<std::string, std::string>& NomsPropres() {
   static const std::map<std::string, std::string> m = {
       {"Rome", "Roma"}, {"Vienna", "Wien"}, {"Warsaw", "Warszawa"}, {"Munich", "München"},
@@ -63,6 +63,8 @@ int Dispersion(int32_t a, int32_t b, int n) {
   x ^= x >> 13;
   return static_cast<int>(x % static_cast<uint32_t>(n));
 }
+
+namespace {
 
 // The towns: the largest of the source in the countries above and inside the frame of the
 // map, a town closer than `rayon` metres to a larger one taken as part of its agglomeration.
@@ -121,8 +123,6 @@ std::vector<std::pair<int, int>> GrapheProximite(const std::vector<Lieu>& l, con
   return r;
 }
 
-namespace {
-
 int Cherche(const std::vector<Lieu>& l, const std::string& nom) {
   for (std::size_t i = 0; i < l.size(); ++i)
     if (l[i].Nom == nom) return static_cast<int>(i);
@@ -152,9 +152,9 @@ int LongueurPar(const Lieu& a, const Lieu& b, const std::vector<std::pair<int, i
 
 const std::vector<Liaison>& LiaisonsEurope() {
   static const std::vector<Liaison> l = {
-      // Jutland and Zealand: the E45 by Flensburg and Kolding, the Great Belt bridge.
       // The west of Scotland by Carlisle and Lancaster, round the Solway and Morecambe Bay.
       {"GLASGOW", "PRESTON", {{-293, 5489}, {-280, 5405}}},
+      // Jutland and Zealand: the E45 by Flensburg and Kolding, the Great Belt bridge.
       {"HAMBURG", "AARHUS", {{943, 5478}, {947, 5549}, {953, 5571}}},
       {"AARHUS", "KØBENHAVN", {{953, 5571}, {1039, 5540}, {1100, 5533}, {1208, 5564}}},
       // Around the Bay of Biscay by Bayonne and San Sebastián, and the Gulf of Lion by Perpignan.
@@ -170,8 +170,18 @@ struct Cle {
 };
 Cle CleDe(int a, int b) { return {std::min(a, b), std::max(a, b)}; }
 
-// The links of a mode: the proximity graph over `membres`, then the imposed links; each link
-// once, ends in index order, in the order found.
+// Length of the link between two towns: by its places when it is an imposed link.
+int LongueurTrajet(const std::vector<Lieu>& l, int a, int b) {
+  for (const Liaison& v : LiaisonsEurope()) {
+    int va = Cherche(l, v.a), vb = Cherche(l, v.b);
+    if (va >= 0 && vb >= 0 && std::min(va, vb) == std::min(a, b) && std::max(va, vb) == std::max(a, b))
+      return LongueurPar(l[va], l[vb], v.via);
+  }
+  return LongueurLien(l[a], l[b]);
+}
+
+// The links of a mode: the proximity graph over `membres`, then the imposed links, each link
+// once, in the order found.
 struct Lien {
   int a, b, longueur;
 };
@@ -226,7 +236,7 @@ std::vector<Lien> Liens(const std::vector<Lieu>& l, const std::vector<int>& memb
   return r;
 }
 
-ArcGenere Arc(int a, int b, int mode, int longueur, int temps) {
+ArcGenere NouvelArc(int a, int b, int mode, int longueur, int temps) {
   ArcGenere x;
   x.Origine = a;
   x.Destination = b;
@@ -239,8 +249,8 @@ ArcGenere Arc(int a, int b, int mode, int longueur, int temps) {
 // Roads and motorways are given per direction, as their mode says; the two arcs of a link
 // have the same length and time.
 void AjouteDansLesDeuxSens(Reseau& r, const Lien& l, int mode, int temps) {
-  r.Arcs.push_back(Arc(l.a, l.b, mode, l.longueur, temps));
-  r.Arcs.push_back(Arc(l.b, l.a, mode, l.longueur, temps));
+  r.Arcs.push_back(NouvelArc(l.a, l.b, mode, l.longueur, temps));
+  r.Arcs.push_back(NouvelArc(l.b, l.a, mode, l.longueur, temps));
 }
 
 // Speed of a link of a mode: from `minimum` to `minimum + etendue - 1` km/h by the codes.
@@ -352,7 +362,7 @@ void AjouteHoraires(Reseau& r, const LigneRegionale& ligne, std::map<int, std::v
       for (std::size_t s = 0; s < arret.size(); ++s) {
         occupe[arret[s]].push_back(t);
         if (s == temps.size()) break;
-        ArcGenere x = Arc(arret[s], arret[s + 1], kTER, LongueurLien(r.Lieux[arret[s]], r.Lieux[arret[s + 1]]), temps[s]);
+        ArcGenere x = NouvelArc(arret[s], arret[s + 1], kTER, LongueurLien(r.Lieux[arret[s]], r.Lieux[arret[s + 1]]), temps[s]);
         x.Depart = t;
         x.Arrivee = t + temps[s];
         x.Jours = t < 7 * 60 ? "1111110" : "1111111";
@@ -398,20 +408,16 @@ Reseau ReseauEuropeen(const std::vector<Ville>& villes) {
   for (const Lien& x : Liens(l, grandes, false, LiaisonsEurope()))
     if (!ferre[CleDe(x.a, x.b)]) rail.push_back(x);
   for (const Lien& x : rail)
-    r.Arcs.push_back(Arc(x.a, x.b, kTrain, x.longueur, TempsA(x.longueur, VitesseLien(r, x, 80, 40))));
-  // High-speed lines, at their trains' times (an imposed link keeps its way).
+    r.Arcs.push_back(NouvelArc(x.a, x.b, kTrain, x.longueur, TempsA(x.longueur, VitesseLien(r, x, 80, 40))));
+  // High-speed lines and ferries at their times, flights at theirs; the length of a flight is
+  // the straight distance, that of a line the way of its link.
   auto imposes = [&r](const std::vector<Trajet>& t, int mode, bool droit) {
     for (const Trajet& x : t) {
       int a = Cherche(r.Lieux, x.a), b = Cherche(r.Lieux, x.b);
       if (a < 0 || b < 0) continue;
       int lg = droit ? static_cast<int>((Distance(r.Lieux[a].P, r.Lieux[b].P) + 500) / 1000)
-                     : LongueurLien(r.Lieux[a], r.Lieux[b]);
-      for (const Liaison& v : LiaisonsEurope()) {
-        Cle c = CleDe(Cherche(r.Lieux, v.a), Cherche(r.Lieux, v.b));
-        if (!droit && c.a == std::min(a, b) && c.b == std::max(a, b))
-          lg = LongueurPar(r.Lieux[Cherche(r.Lieux, v.a)], r.Lieux[Cherche(r.Lieux, v.b)], v.via);
-      }
-      r.Arcs.push_back(Arc(a, b, mode, lg, x.minutes));
+                     : LongueurTrajet(r.Lieux, a, b);
+      r.Arcs.push_back(NouvelArc(a, b, mode, lg, x.minutes));
     }
   };
   imposes(LignesGrandeVitesse(), kTGV, false);
@@ -523,7 +529,7 @@ void ReseauRegional(const std::vector<Ville>& villes, Reseau& actuel, Reseau& an
           if (mode == kAutoroute)
             AjouteDansLesDeuxSens(r, x, mode, t);
           else
-            r.Arcs.push_back(Arc(x.a, x.b, mode, x.longueur, t));
+            r.Arcs.push_back(NouvelArc(x.a, x.b, mode, x.longueur, t));
           if (ch.recente)
             for (std::size_t k = debut; k < r.Arcs.size(); ++k) recents.insert(k);
         }
