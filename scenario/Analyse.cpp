@@ -412,7 +412,8 @@ Instruction AnalyseLigne(std::string_view ligne) {
     // The file may hold blanks: the two figures are the last two words.
     auto mots = Mots(reste);
     std::vector<long> v;
-    if (mots.size() < 3 || !Entiers(mots, mots.size() - 2, v) || v[0] <= 0 || v[1] <= 0)
+    // The extent is written in 16-bit words of the placeable header.
+    if (mots.size() < 3 || !Entiers(mots, mots.size() - 2, v) || v[0] <= 0 || v[1] <= 0 || v[0] > 32767 || v[1] > 32767)
       return Incomprise(std::move(ins), "forme attendue : metafichier FICHIER L H");
     std::string_view fichier = reste.substr(0, static_cast<std::size_t>(mots[mots.size() - 2].data() - reste.data()));
     ins.Genre = GenreLigne::Metafichier;

@@ -1,7 +1,8 @@
 #include "scenario/Cibles.h"
 
-#include <cmath>
 #include <map>
+
+#include "noyau/Chaines.h"
 
 #include "graphe/Modes.h"
 #include "noyau/Orva.h"
@@ -60,9 +61,9 @@ Resolution Indice(const Argument& a, long& v) {
   Resolution r = Resous(*c);
   if (r.Issue != Resolution::Trouvee) return r;
   if (!r.Objet.Lit) return Inconnue("indice attendu");
-  double d = Val(r.Objet.Lit());
-  if (d != std::floor(d) || std::fabs(d) > 2e9) return Inconnue("indice attendu");
-  v = static_cast<long>(d);
+  auto n = EntierStrict(Trim(r.Objet.Lit()));
+  if (!n) return Inconnue("indice attendu");
+  v = *n;
   return Succes();
 }
 

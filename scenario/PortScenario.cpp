@@ -171,8 +171,18 @@ void PortScenario::MontreDialogue(const std::string& nom, bool modal) {
   if (!d) return;
   // Dialogs are loaded once, before their first showing, and stay loaded.
   if (charges_.insert(nom).second && d->Load) d->Load();
+  // A dialog already shown modally cannot be shown modally again (the platform's error 400).
+  if (modal && modaux_.count(nom)) throw ErreurExecution(400, "Feuille déjà affichée ; affichage modal impossible");
   d->Visible = true;
-  if (modal && AttendFermeture) AttendFermeture(*d);
+  if (!modal || !AttendFermeture) return;
+  modaux_.insert(nom);
+  try {
+    AttendFermeture(*d);
+  } catch (...) {
+    modaux_.erase(nom);
+    throw;
+  }
+  modaux_.erase(nom);
 }
 
 void PortScenario::CacheDialogue(const std::string& nom) {

@@ -77,6 +77,7 @@ class PortScenario : public Plateforme {
   std::string dossierDepart_;
   std::deque<EnAttente> attente_;
   std::set<std::string> charges_;  // dialogs whose Load has run
+  std::set<std::string> modaux_;   // dialogs waiting modally, nested
 };
 
 // The button a message box answers when nobody chooses: its default, 1-based.

@@ -1,20 +1,18 @@
 #include "scenario/Scenario.h"
 
 #include <QGuiApplication>
-#include <QImage>
-#include <QString>
 #include <fstream>
 #include <iostream>
 
 #include "graphe/FichiersArcs.h"
 #include "graphe/FichiersNoeuds.h"
 #include "graphe/Modes.h"
+#include "image/ExportImage.h"
 #include "noyau/Demarrage.h"
 #include "noyau/Fichiers.h"
 #include "scenario/Executeur.h"
 #include "vue/Projection.h"
 #include "vue/Souris.h"
-#include "vue/Surface.h"
 
 namespace orva {
 
@@ -39,9 +37,11 @@ void InstalleCrochetsParDefaut() {
   if (!CrochetSourisEnfoncee) CrochetSourisEnfoncee = ImaMouseDown;
   if (!CrochetSourisDeplacee) CrochetSourisDeplacee = ImaMouseMove;
   if (!CrochetSourisRelachee) CrochetSourisRelachee = ImaMouseUp;
-  // The bitmap is there once the view draws into one.
-  if (!CrochetImage && !Ima.Image().isNull())
-    CrochetImage = [](const std::string& fichier) { return Ima.Image().save(QString::fromStdString(fichier)); };
+  if (!CrochetImage) CrochetImage = EcritImageFichier;
+  if (!CrochetMetafichier)
+    CrochetMetafichier = [](const std::string& fichier, long largeur, long hauteur) {
+      return EcritMetaFichierScenario(fichier, static_cast<int>(largeur), static_cast<int>(hauteur));
+    };
 }
 
 int ExecuteScenario(std::istream& scenario, std::ostream& sortie, const std::string& racine,
@@ -68,7 +68,7 @@ int ExecuteScenario(const std::string& fichier, const std::string& racine) {
   const std::string depart = RepertoireCourant();
   if (fichier == "-") return ExecuteScenario(std::cin, std::cout, racine, depart);
   std::ifstream f(fichier, std::ios::binary);
-  if (!f) {
+  if (!f || ExisteRepertoire(fichier)) {
     std::cerr << "orva : impossible de lire le scénario " << fichier << '\n';
     Evenements(std::cout).Erreur(0, "scénario illisible : " + fichier);
     return 2;

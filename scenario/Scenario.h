@@ -30,8 +30,8 @@ using GestionSouris = std::function<void(int bouton, int maj, double x, double y
 inline GestionSouris CrochetSourisEnfoncee;
 inline GestionSouris CrochetSourisDeplacee;
 inline GestionSouris CrochetSourisRelachee;
-// Fills the hooks that are still empty with the view's handlers: the mouse handlers of Ima, and,
-// once Ima has a bitmap, its writing in the format of the file name's extension.
+// Fills the hooks that are still empty: the mouse handlers of Ima, the writing of its bitmap and
+// of the present metafile by the routines of image export.
 void InstalleCrochetsParDefaut();
 
 }  // namespace orva

@@ -168,7 +168,8 @@ TEST(AnalyseLigne, PoseImageMetafichier) {
   EXPECT_EQ(i.Genre, GenreLigne::Metafichier);
   EXPECT_EQ(i.Expression, "sortie/mon image.wmf");
   EXPECT_EQ(i.Nombres, (std::vector<long>{800, 600}));
-  for (const char* faux : {"metafichier a.wmf 800", "metafichier 800 600", "metafichier a.wmf 0 600", "metafichier a.wmf x 600"})
+  for (const char* faux : {"metafichier a.wmf 800", "metafichier 800 600", "metafichier a.wmf 0 600", "metafichier a.wmf x 600",
+                           "metafichier a.wmf 800 40000"})
     EXPECT_EQ(A(faux).Genre, GenreLigne::Incomprise) << faux;
 }
 

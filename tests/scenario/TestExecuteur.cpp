@@ -160,6 +160,14 @@ TEST_F(Scenario, FinDansUnDialogueModalArreteLaCommande) {
   EXPECT_EQ(s, "{\"type\":\"erreur\",\"ligne\":0,\"texte\":\"fin du scénario dans le dialogue modal : Interne\"}\n");
 }
 
+TEST_F(Scenario, UnDialogueDejaModalNeSeMontrePasEncore) {
+  std::string s = Lance("OuvreExterne\nOuvreExterne\nExterne.OK\n");
+  EXPECT_EQ(journal, (std::vector<std::string>{"ouvre Externe", "ouvre Externe", "après Externe"}));
+  EXPECT_EQ(s,
+            "{\"type\":\"message\",\"titre\":\"Erreur\",\"texte\":\"Erreur 400 : Feuille déjà affichée ; affichage "
+            "modal impossible\",\"boutons\":\"OK\",\"icone\":\"exclamation\",\"reponse\":\"OK\",\"defaut\":true}\n");
+}
+
 TEST_F(Scenario, ReponsesEnAttenteEtDefauts) {
   // The OK box does not take the "Non" meant for the question; the third box takes its default.
   std::string s = Lance("reponse Non\nQuestions\nreponse Annuler\nreponse Oui\nsaisie x\n");
@@ -273,7 +281,8 @@ TEST_F(Scenario, Listes) {
 
 TEST_F(Scenario, LigneIncompriseArreteLeScenario) {
   for (const char* ligne : {"Externe.Inconnu", "Externe.Légende = 3", "Externe.Case = oui", "affiche Externe.Case.Foo",
-                            "pose Externe.Texte = 3", "Inconnu", "EchelleVue", "Externe.Texte += #1"}) {
+                            "pose Externe.Texte = 3", "Inconnu", "EchelleVue", "Externe.Texte += #1",
+                            "affiche Espaces(NoeudCentre).Nom"}) {
     journal.clear();
     std::string s = Lance(std::string("Externe.Case\n") + ligne + "\nExterne.Case\n", 2);
     EXPECT_EQ(journal, (std::vector<std::string>{"Case 1"})) << ligne;
@@ -318,18 +327,23 @@ TEST_F(Scenario, CrochetsDeLImageEtDeLaSouris) {
   CrochetSourisRelachee = note("haut");
   CrochetImage = nullptr;
   CrochetMetafichier = nullptr;
-  // The bitmap of Ima is written once the view has one; the metafile waits for its writer.
+  // The bitmap of Ima is written by the extension of the name; with nothing recorded there is
+  // no metafile to write.
   std::string s = Lance("souris 1 10 20 2\nglisse 2 1 2 30 40\ndeplace 5 6\nimage a.png\nmetafichier b.wmf 800 600\n", 2);
   CrochetSourisEnfoncee = CrochetSourisDeplacee = CrochetSourisRelachee = nullptr;
   EXPECT_EQ(appels, (std::vector<std::string>{"bas 1 2 10 20", "haut 1 2 10 20", "bas 2 0 1 2", "bouge 2 0 30 40",
                                               "haut 2 0 30 40", "bouge 0 0 5 6"}));
-  const std::string metafichier = "{\"type\":\"erreur\",\"ligne\":5,\"texte\":\"metafichier : pas encore disponible\"}\n";
-  if (CrochetImage) {
-    EXPECT_EQ(s, metafichier);
-    EXPECT_EQ(LitOctets(depart.chemin + "/a.png").substr(0, 4), "\x89PNG");
-  } else {
-    EXPECT_EQ(s, "{\"type\":\"erreur\",\"ligne\":4,\"texte\":\"image : pas encore disponible\"}\n" + metafichier);
-  }
+  EXPECT_EQ(s, "{\"type\":\"erreur\",\"ligne\":5,\"texte\":\"metafichier : écriture impossible : b.wmf\"}\n");
+  EXPECT_EQ(LitOctets(depart.chemin + "/a.png").substr(0, 4), "\x89PNG");
+
+  // Hooks left empty: the line says so and the run goes on.
+  CrochetImage = nullptr;
+  CrochetMetafichier = nullptr;
+  Routines()["Vide"] = [] { CrochetImage = nullptr; };
+  s = Lance("Vide\nimage a.png\naffiche EchelleVue\n", 2);
+  EXPECT_EQ(s,
+            "{\"type\":\"erreur\",\"ligne\":2,\"texte\":\"image : pas encore disponible\"}\n"
+            "{\"type\":\"affiche\",\"expr\":\"EchelleVue\",\"valeur\":\"3\"}\n");
 
   std::string ecrit;
   CrochetImage = [&ecrit](const std::string& f) {
