@@ -22,7 +22,7 @@ void ChargeArcsCourt(std::istream& in, const std::string& nom);
 
 // Reads Arcs codes, Noeuds codes, NbNoeuds; writes IndiceOrigine, IndiceDestination (0 for an
 // arc known at one end only) and the progress. Indexed, with exactly the results of the literal
-// scan of Part 2.2 (see the .cpp).
+// scan (see the .cpp).
 void ImplementeIndicesArcs();
 // Reads Arcs Mode, codes, Depart, Arrivee and the modes' Fleches; writes Orientation and the
 // progress. Indexed, with exactly the pairs of the literal quadratic pass.

@@ -1,4 +1,4 @@
-// Removal of one arc or one node, keeping table order (Part 1.1).
+// Removal of one arc or one node, keeping table order.
 #pragma once
 
 namespace orva {

@@ -1,5 +1,5 @@
 // The two passes that complete arcs after a load: node indices and orientation. The literal
-// algorithms of Part 2.2 are kept here as references; the indexed implementations must give
+// algorithms are kept here as references; the indexed implementations must give
 // exactly their results, errors and progress included, on random networks.
 #include <gtest/gtest.h>
 

@@ -37,7 +37,7 @@ struct LigneMode {
   int rang;
 };
 
-// The table of Part 2.3, "as" colours resolved.
+// The table of the 23 modes, "as" colours resolved.
 const LigneMode kTable[23] = {
     {"TGV", 3, 220, 2, 3, QBColor(4), QBColor(4), RGB(255, 128, 128), false, 1},
     {"TGVSiteClassique", 31, 120, 2, 2, QBColor(4), QBColor(4), RGB(255, 128, 128), false, 2},

@@ -1,4 +1,4 @@
-// Removal of one arc or one node (Part 1.1).
+// Removal of one arc or one node.
 #include <gtest/gtest.h>
 
 #include "graphe/FichiersArcs.h"
