@@ -2,9 +2,8 @@
 
 #include <map>
 
-#include "noyau/Chaines.h"
-
 #include "graphe/Modes.h"
+#include "noyau/Chaines.h"
 #include "noyau/Orva.h"
 #include "noyau/Registre.h"
 #include "scenario/Scenario.h"
@@ -203,7 +202,10 @@ Resolution ResousDansDialogue(Dialogue* d, const Chemin& c, std::size_t i) {
       Resolution r = Indice(s.Arguments[0], k);
       if (r.Issue != Resolution::Trouvee) return r;
       if (k < 0 || k >= liste->ListCount()) return HorsLimites("ligne hors limites");
-      return Valeur([liste, k] { return liste->Lignes[static_cast<std::size_t>(k)]; });
+      return Valeur([liste, k] {
+        auto i = static_cast<std::size_t>(k);
+        return i < liste->Lignes.size() ? liste->Lignes[i] : std::string();
+      });
     }
     if (reste == 0) return ElementDeControle(d, ctl, s.Nom, "", false);
     if (reste == 1) return Propriete(ctl, c[i + 1]);

@@ -75,8 +75,13 @@ Reponse BoutonParDefaut(Boutons b, int defaut) {
   return Reponse::OK;
 }
 
-PortScenario::PortScenario(Evenements& evenements, std::string dossierDepart)
-    : evenements_(evenements), dossierDepart_(std::move(dossierDepart)) {}
+PortScenario::PortScenario(Evenements& evenements, std::string dossierDepart) : evenements_(evenements) {
+  // Taken absolute now: the current folder changes with the file dialogs.
+  std::error_code ec;
+  std::filesystem::path p = std::filesystem::absolute(dossierDepart, ec);
+  dossierDepart_ = ec ? dossierDepart : p.lexically_normal().string();
+  while (dossierDepart_.size() > 1 && dossierDepart_.back() == '/') dossierDepart_.pop_back();
+}
 
 void PortScenario::MetEnAttente(const Instruction& reponse, long ligne) { attente_.push_back({reponse, ligne}); }
 
