@@ -229,7 +229,9 @@ void ImplementeIndicesArcs() {
         if (j != 0) ev[nb++] = {j, true};
       for (long j : {d.premiere, d.seconde})
         if (j != 0) ev[nb++] = {j, false};
-      std::sort(ev, ev + nb, [](const Evenement& x, const Evenement& y) { return x.j < y.j; });
+      // At most four entries: an insertion sort by node index.
+      for (int k = 1; k < nb; ++k)
+        for (int m = k; m > 0 && ev[m].j < ev[m - 1].j; --m) std::swap(ev[m], ev[m - 1]);
       for (int k = 0; k < nb && k < 2; ++k) {
         if (ev[k].origine) a.IndiceOrigine = IndiceNoeud(ev[k].j);
         else a.IndiceDestination = IndiceNoeud(ev[k].j);
