@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QGuiApplication>
 #include <cstring>
+#include <filesystem>
 #include <iostream>
 #include <string>
 
@@ -29,10 +30,16 @@ int main(int argc, char** argv) {
   }
   if (avecScript) return orva::ExecuteScenario(script, racine);
 
+  Q_INIT_RESOURCE(orva);
   QApplication app(argc, argv);
   QApplication::setApplicationName("ORVA");
+  QApplication::setDesktopFileName("orva");
   orva::EnregistreTout();
-  if (!racine.empty()) orva::CandidatsRacine = {racine};
+  if (!racine.empty()) {
+    std::error_code ec;
+    const auto absolu = std::filesystem::absolute(racine, ec);
+    orva::CandidatsRacine = {ec ? racine : absolu.lexically_normal().string()};
+  }
   orva::PortQt port;
   orva::DefinitPort(&port);
   orva::FenetrePrincipale fenetre;

@@ -3,17 +3,28 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPixmap>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpressionValidator>
 #include <QSpinBox>
+#include <QToolButton>
 #include <QVBoxLayout>
+#include <set>
 
+#include "ihm/Icones.h"
+#include "ihm/PortQt.h"
 #include "noyau/Controles.h"
+#include "vue/Apercu.h"
 
 namespace orva {
 
@@ -21,229 +32,590 @@ namespace {
 
 QString Q(const std::string& s) { return QString::fromStdString(s); }
 
-// "&" marks an access key in our captions as in Qt's.
-QString Libelle(const std::string& nom, const Controle& c) { return Q(c.Caption.empty() ? nom : c.Caption); }
+// Labels of the rows whose control the state leaves without a caption.
+const std::map<std::string, std::string>& Libelles() {
+  static const std::map<std::string, std::string> m = {
+      {"Angles.Texte1", "Angle vertical :"},
+      {"Angles.Texte3", "Angle horizontal :"},
+      {"Angles.ListeModifiable1", "Rotation centrée sur :"},
+      {"ParamAffichage.CoefficientZoom", "Coefficient de zoom :"},
+      {"ParamAffichage.xZoom", "Décalage en x :"},
+      {"ParamAffichage.yZoom", "Décalage en y :"},
+      {"ParamAffichage.HauteurImage", "Hauteur de l'image :"},
+      {"ParamAffichage.LargeurImage", "Largeur de l'image :"},
+      {"ParamAffichage.ListeDesEspaces", "Espaces prédéfinis :"},
+      {"AspectVisuelArcs.Combo1", "Couleur :"},
+      {"AspectVisuelArcs.Text3", "Numéro de la couleur :"},
+      {"TraceArcs.Option3DMode", "Modes du graphe"},
+  };
+  return m;
+}
 
-void Commun(QWidget* w, const Controle& c) {
-  w->setEnabled(c.Enabled);
-  w->setVisible(c.Visible);
+std::string SansEsperluette(const std::string& s) {
+  std::string r;
+  for (char c : s)
+    if (c != '&') r += c;
+  return r;
+}
+
+bool EstBoutonDuBas(const Controle& c) {
+  const std::string t = SansEsperluette(c.Caption);
+  return t == "OK" || t == "Annuler";
+}
+
+bool EstSpin(const std::string& nom, const Curseur& s) { return nom.rfind("Spin", 0) == 0 && s.Min == -1 && s.Max == 1; }
+
+// Arrow keys in a text box step the spin button of its row.
+class FiltreFleches : public QObject {
+ public:
+  FiltreFleches(QObject* parent, std::function<void(int)> pas) : QObject(parent), pas_(std::move(pas)) {}
+
+ protected:
+  bool eventFilter(QObject* o, QEvent* e) override {
+    if (e->type() == QEvent::KeyPress) {
+      auto* k = static_cast<QKeyEvent*>(e);
+      if (k->key() == Qt::Key_Up || k->key() == Qt::Key_Down) {
+        pas_(k->key() == Qt::Key_Up ? 1 : -1);
+        return true;
+      }
+    }
+    return QObject::eventFilter(o, e);
+  }
+
+ private:
+  std::function<void(int)> pas_;
+};
+
+// Access keys: every caption without one gets the first letter that no other caption of the
+// dialog uses.
+QString AvecTouche(const QString& texte, QChar touche) {
+  if (texte.contains('&') || touche.isNull()) return texte;
+  const int i = texte.indexOf(touche, 0, Qt::CaseInsensitive);
+  if (i < 0) return texte;
+  QString r = texte;
+  r.insert(i, '&');
+  return r;
+}
+
+QChar ToucheDe(const QString& texte) {
+  const int i = texte.indexOf('&');
+  if (i < 0 || i + 1 >= texte.size()) return {};
+  return texte[i + 1].toLower();
+}
+
+// The bitmap of a surface, or a swatch of a colour 0x00BBGGRR.
+QPixmap PixmapDe(const Apercu& a) {
+  if (a.Surface) {
+    const QImage& im = a.Surface->Image();
+    if (!im.isNull()) return QPixmap::fromImage(im);
+    QPixmap p(static_cast<int>(a.Surface->ScaleWidth()), static_cast<int>(a.Surface->ScaleHeight()));
+    p.fill(Qt::white);
+    return p;
+  }
+  QPixmap p(48, 22);
+  const int32_t c = a.Couleur ? *a.Couleur : 0;
+  p.fill(QColor(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF));
+  return p;
 }
 
 }  // namespace
 
+std::string LibelleDe(const std::string& dialogue, const std::string& controle) {
+  auto it = Libelles().find(dialogue + "." + controle);
+  return it == Libelles().end() ? std::string() : it->second;
+}
+
 DialogueQt::DialogueQt(Dialogue& d, QWidget* parent) : QDialog(parent), etat_(d) {
   setObjectName(Q(d.Nom));
+  setWindowFlag(Qt::WindowContextHelpButtonHint, false);
   Construit();
 }
 
 void DialogueQt::Action(const std::function<void()>& f) {
   if (enSynchro_) return;
-  if (f) f();
+  if (f) {
+    auto copie = f;  // a command may register its dialog again
+    ExecuteProtege(etat_.Nom, copie);
+  }
   Synchronise();
   if (ApresAction) ApresAction();
   if (!etat_.Visible && isVisible()) QDialog::done(0);
 }
 
-void DialogueQt::AjouteControle(const std::string& nom, Controle* c, QGridLayout* grille, int& ligne) {
-  QString on = Q(nom);
+QHBoxLayout* DialogueQt::LigneCourante() { return suite_; }
+
+void DialogueQt::FinDeLigne() {
+  suite_ = nullptr;
+  rangeeBoutons_ = nullptr;
+}
+
+void DialogueQt::AjouteControle(const std::string& nom, Controle* c) {
+  const QString on = Q(nom);
+  const std::string libelle = c->Caption.empty() ? LibelleDe(etat_.Nom, nom) : c->Caption;
+  // A row of the grid: a label, and a line of widgets that later controls may join.
+  auto nouvelleLigne = [this](const std::string& texte, QWidget* champ) {
+    auto* l = new QLabel(Q(texte), this);
+    l->setBuddy(champ);
+    auto* h = new QHBoxLayout;
+    h->addWidget(champ, 1);
+    grille_->addWidget(l, ligne_, 0);
+    grille_->addLayout(h, ligne_++, 1);
+    suite_ = h;
+    rangeeBoutons_ = nullptr;
+    return l;
+  };
+
   if (auto* b = dynamic_cast<Bouton*>(c)) {
-    auto* w = new QPushButton(Libelle(nom, *b), this);
+    auto* w = new QPushButton(Q(libelle), this);
     w->setObjectName(on);
     w->setAutoDefault(false);
     connect(w, &QPushButton::clicked, this, [this, b] { Action(b->Click); });
-    grille->addWidget(w, ligne++, 0, 1, 2);
-    synchros_.push_back([w, b, nom] { w->setText(Libelle(nom, *b)); Commun(w, *b); });
-  } else if (auto* k = dynamic_cast<CaseACocher*>(c)) {
-    auto* w = new QCheckBox(Libelle(nom, *k), this);
+    if (EstBoutonDuBas(*b)) {
+      const bool ok = SansEsperluette(b->Caption) == "OK";
+      boutonsBas_->addButton(w, ok ? QDialogButtonBox::AcceptRole : QDialogButtonBox::RejectRole);
+      if (ok) w->setDefault(true);
+    } else {
+      if (!rangeeBoutons_) {
+        rangeeBoutons_ = new QHBoxLayout;
+        grille_->addLayout(rangeeBoutons_, ligne_++, 0, 1, 2);
+      }
+      rangeeBoutons_->addWidget(w);
+      suite_ = rangeeBoutons_;
+    }
+    synchros_.push_back([this, w, b, nom] {
+      const std::string t = b->Caption.empty() ? nom : b->Caption;
+      w->setText(AvecTouche(Q(t), w->property("touche").toChar()));
+      w->setEnabled(b->Enabled);
+      w->setVisible(b->Visible);
+    });
+    return;
+  }
+  if (auto* k = dynamic_cast<CaseACocher*>(c)) {
+    FinDeLigne();
+    auto* w = new QCheckBox(Q(libelle), this);
     w->setObjectName(on);
-    connect(w, &QCheckBox::toggled, this, [this, k](bool v) {
+    connect(w, &QCheckBox::clicked, this, [this, k](bool v) {
       Action([k, v] {
         k->Value = v ? 1 : 0;
         if (k->Click) k->Click();
       });
     });
-    grille->addWidget(w, ligne++, 0, 1, 2);
-    synchros_.push_back([w, k, nom] { w->setText(Libelle(nom, *k)); w->setChecked(k->Value != 0); Commun(w, *k); });
-  } else if (auto* o = dynamic_cast<BoutonOption*>(c)) {
-    auto* w = new QRadioButton(Libelle(nom, *o), this);
+    grille_->addWidget(w, ligne_++, 0, 1, 2);
+    synchros_.push_back([w, k, nom] {
+      w->setText(AvecTouche(Q(k->Caption.empty() ? nom : k->Caption), w->property("touche").toChar()));
+      w->setCheckState(k->Value == 0 ? Qt::Unchecked : k->Value == 2 ? Qt::PartiallyChecked : Qt::Checked);
+      w->setEnabled(k->Enabled);
+      w->setVisible(k->Visible);
+    });
+    return;
+  }
+  if (auto* o = dynamic_cast<BoutonOption*>(c)) {
+    FinDeLigne();
+    auto it = groupes_.find(o->Groupe);
+    if (it == groupes_.end()) {
+      auto* g = new QGroupBox(Q(o->Groupe), this);
+      g->setObjectName(Q("Cadre" + o->Groupe));
+      new QGridLayout(g);
+      grille_->addWidget(g, ligne_++, 0, 1, 2);
+      it = groupes_.emplace(o->Groupe, g).first;
+    }
+    auto* cadre = static_cast<QGridLayout*>(it->second->layout());
+    int dansGroupe = 0, total = 0;
+    for (auto& [n2, c2] : etat_.Controles())
+      if (auto* o2 = dynamic_cast<BoutonOption*>(c2); o2 && o2->Groupe == o->Groupe) {
+        if (o2 == o) dansGroupe = total;
+        ++total;
+      }
+    const int colonnes = total > 8 ? 3 : 1;
+    auto* w = new QRadioButton(Q(libelle), this);
     w->setObjectName(on);
     w->setAutoExclusive(false);
     connect(w, &QRadioButton::clicked, this, [this, o] {
       Action([this, o] {
-        // Options of one dialog form one group.
         for (auto& [n, autre] : etat_.Controles())
-          if (auto* x = dynamic_cast<BoutonOption*>(autre)) x->Value = false;
+          if (auto* x = dynamic_cast<BoutonOption*>(autre); x && x->Groupe == o->Groupe) x->Value = false;
         o->Value = true;
         if (o->Click) o->Click();
       });
     });
-    grille->addWidget(w, ligne++, 0, 1, 2);
-    synchros_.push_back([w, o, nom] { w->setText(Libelle(nom, *o)); w->setChecked(o->Value); Commun(w, *o); });
-  } else if (auto* t = dynamic_cast<ZoneTexte*>(c)) {
-    auto* l = new QLabel(Libelle(nom, *t), this);
+    cadre->addWidget(w, dansGroupe / colonnes, dansGroupe % colonnes);
+    synchros_.push_back([w, o, nom] {
+      w->setText(AvecTouche(Q(o->Caption.empty() ? nom : o->Caption), w->property("touche").toChar()));
+      w->setChecked(o->Value);
+      w->setEnabled(o->Enabled);
+      w->setVisible(o->Visible);
+    });
+    return;
+  }
+  if (auto* t = dynamic_cast<ZoneTexte*>(c)) {
     auto* w = new QLineEdit(this);
     w->setObjectName(on);
-    l->setBuddy(w);
+    const bool masque = nom.rfind("MaskedEdit", 0) == 0;
+    if (masque) w->setValidator(new QRegularExpressionValidator(QRegularExpression("[0-9]{0,12}"), w));
     connect(w, &QLineEdit::textEdited, this, [this, t](const QString& s) {
       Action([t, s] {
         t->Text = s.toStdString();
         if (t->Change) t->Change();
       });
     });
-    grille->addWidget(l, ligne, 0);
-    grille->addWidget(w, ligne++, 1);
+    QLabel* l = nullptr;
+    if (masque && suite_) {
+      // The mask field stands beside its twin text box, its caption as the unit.
+      suite_->addWidget(w, 1);
+      l = new QLabel(Q(libelle), this);
+      suite_->addWidget(l);
+    } else {
+      l = nouvelleLigne(libelle, w);
+    }
     synchros_.push_back([w, l, t] {
       if (w->text() != Q(t->Text)) w->setText(Q(t->Text));
-      Commun(w, *t);
+      w->setEnabled(t->Enabled);
+      w->setVisible(t->Visible);
       l->setVisible(t->Visible);
     });
-  } else if (auto* s = dynamic_cast<Curseur*>(c)) {
-    auto* l = new QLabel(Libelle(nom, *s), this);
+    return;
+  }
+  if (auto* s = dynamic_cast<Curseur*>(c)) {
+    if (EstSpin(nom, *s)) {
+      // Two arrows: up sets 1, down -1, and the spin's Change takes the step.
+      auto* boite = new QVBoxLayout;
+      boite->setSpacing(0);
+      QToolButton* fleches[2];
+      for (int i = 0; i < 2; ++i) {
+        const int sens = i == 0 ? 1 : -1;
+        auto* f = new QToolButton(this);
+        f->setObjectName(on + (sens > 0 ? ".Haut" : ".Bas"));
+        f->setArrowType(sens > 0 ? Qt::UpArrow : Qt::DownArrow);
+        f->setAutoRepeat(true);
+        f->setFocusPolicy(Qt::NoFocus);
+        f->setFixedSize(20, 12);
+        connect(f, &QToolButton::clicked, this, [this, s, sens] {
+          Action([s, sens] {
+            s->Value = sens;
+            if (s->Change) s->Change();
+          });
+        });
+        boite->addWidget(f);
+        fleches[i] = f;
+      }
+      if (suite_) {
+        suite_->addLayout(boite);
+        // The arrow keys in the row's text box step it too.
+        for (int i = suite_->count() - 1; i >= 0; --i)
+          if (auto* champ = qobject_cast<QLineEdit*>(suite_->itemAt(i)->widget())) {
+            champ->installEventFilter(new FiltreFleches(champ, [f = fleches[0], g = fleches[1]](int sens) {
+              (sens > 0 ? f : g)->click();
+            }));
+            break;
+          }
+      } else {
+        auto* h = new QHBoxLayout;
+        h->addWidget(new QLabel(Q(libelle), this));
+        h->addLayout(boite);
+        h->addStretch();
+        grille_->addLayout(h, ligne_++, 0, 1, 2);
+      }
+      synchros_.push_back([fleches0 = fleches[0], fleches1 = fleches[1], s] {
+        for (QToolButton* f : {fleches0, fleches1}) {
+          f->setEnabled(s->Enabled);
+          f->setVisible(s->Visible);
+        }
+      });
+      return;
+    }
     if (nom.rfind("Gauge", 0) == 0) {
       auto* w = new QProgressBar(this);
       w->setObjectName(on);
-      grille->addWidget(l, ligne, 0);
-      grille->addWidget(w, ligne++, 1);
+      w->setTextVisible(false);
+      w->setMaximumWidth(160);
+      if (suite_) suite_->addWidget(w);
+      else nouvelleLigne(libelle, w);
       synchros_.push_back([w, s] {
         w->setRange(static_cast<int>(s->Min), static_cast<int>(s->Max));
-        w->setValue(static_cast<int>(s->Value));
-        Commun(w, *s);
+        w->setValue(static_cast<int>(s->Value < s->Min ? s->Min : s->Value > s->Max ? s->Max : s->Value));
+        w->setVisible(s->Visible);
       });
-    } else {
-      auto* w = new QSpinBox(this);
-      w->setObjectName(on);
-      connect(w, &QSpinBox::valueChanged, this, [this, s](int v) {
-        Action([s, v] {
-          s->Value = v;
-          if (s->Change) s->Change();
-        });
-      });
-      grille->addWidget(l, ligne, 0);
-      grille->addWidget(w, ligne++, 1);
-      synchros_.push_back([w, s] {
-        w->setRange(static_cast<int>(s->Min), static_cast<int>(s->Max));
-        w->setValue(static_cast<int>(s->Value));
-        Commun(w, *s);
-      });
+      return;
     }
-  } else if (auto* li = dynamic_cast<Liste*>(c)) {
-    auto* l = new QLabel(Libelle(nom, *li), this);
+    auto* w = new QSpinBox(this);
+    w->setObjectName(on);
+    w->setKeyboardTracking(false);
+    connect(w, &QSpinBox::valueChanged, this, [this, s](int v) {
+      Action([s, v] {
+        s->Value = v;
+        if (s->Change) s->Change();
+      });
+    });
+    nouvelleLigne(libelle, w);
+    synchros_.push_back([w, s] {
+      w->setRange(static_cast<int>(s->Min), static_cast<int>(s->Max));
+      w->setValue(static_cast<int>(s->Value));
+      w->setEnabled(s->Enabled);
+      w->setVisible(s->Visible);
+    });
+    return;
+  }
+  if (auto* li = dynamic_cast<Liste*>(c)) {
     if (li->Combo) {
       auto* w = new QComboBox(this);
       w->setObjectName(on);
       w->setEditable(li->Editable);
-      l->setBuddy(w);
+      w->setMaxVisibleItems(20);
+      w->setMinimumContentsLength(12);
+      if (li->Editable) w->setInsertPolicy(QComboBox::NoInsert);
       connect(w, &QComboBox::activated, this, [this, li, w](int i) {
         Action([li, w, i] {
           li->ListIndex = i;
           li->Text = w->itemText(i).toStdString();
           if (li->Click) li->Click();
-          if (li->Change) li->Change();
         });
       });
       if (li->Editable)
-        connect(w, &QComboBox::editTextChanged, this, [this, li](const QString& s) {
-          Action([li, s] {
+        connect(w->lineEdit(), &QLineEdit::textEdited, this, [this, li, w](const QString& s) {
+          Action([li, w, s] {
             li->Text = s.toStdString();
+            li->ListIndex = w->findText(s, Qt::MatchExactly);
             if (li->Change) li->Change();
           });
         });
-      grille->addWidget(l, ligne, 0);
-      grille->addWidget(w, ligne++, 1);
-      synchros_.push_back([w, li] {
-        if (w->count() != li->ListCount()) {
+      auto* l = nouvelleLigne(libelle, w);
+      auto lignes = std::make_shared<std::vector<std::string>>();
+      synchros_.push_back([w, l, li, lignes] {
+        if (*lignes != li->Lignes) {
+          *lignes = li->Lignes;
           w->clear();
           for (auto& r : li->Lignes) w->addItem(Q(r));
         }
-        w->setCurrentIndex(li->ListIndex);
+        w->setCurrentIndex(li->ListIndex < w->count() ? li->ListIndex : -1);
         if (li->Editable && w->currentText() != Q(li->Text)) w->setEditText(Q(li->Text));
-        Commun(w, *li);
+        w->setEnabled(li->Enabled);
+        w->setVisible(li->Visible);
+        l->setVisible(li->Visible);
       });
-    } else {
-      auto* w = new QListWidget(this);
-      w->setObjectName(on);
-      w->setSelectionMode(li->MultiSelect ? QAbstractItemView::MultiSelection : QAbstractItemView::SingleSelection);
-      connect(w, &QListWidget::itemClicked, this, [this, li, w](QListWidgetItem* it) {
-        Action([li, w, it] {
-          int i = w->row(it);
-          li->ListIndex = i;
-          if (i >= 0 && i < static_cast<int>(li->Selected.size())) li->Selected[static_cast<std::size_t>(i)] = it->isSelected();
+      return;
+    }
+    FinDeLigne();
+    auto* w = new QListWidget(this);
+    w->setObjectName(on);
+    w->setSelectionMode(li->MultiSelect ? QAbstractItemView::MultiSelection : QAbstractItemView::SingleSelection);
+    w->setMinimumHeight(120);
+    if (li->MultiSelect) {
+      connect(w, &QListWidget::itemSelectionChanged, this, [this, li, w] {
+        Action([li, w] {
+          li->Selected.assign(li->Lignes.size(), false);
+          for (int i = 0; i < w->count() && i < li->ListCount(); ++i)
+            li->Selected[static_cast<std::size_t>(i)] = w->item(i)->isSelected();
+          li->ListIndex = w->currentRow();
           if (li->Click) li->Click();
         });
       });
-      connect(w, &QListWidget::itemDoubleClicked, this, [this, li, w](QListWidgetItem* it) {
-        Action([li, w, it] {
-          li->ListIndex = w->row(it);
-          if (li->DblClick) li->DblClick();
+    } else {
+      connect(w, &QListWidget::currentRowChanged, this, [this, li](int i) {
+        Action([li, i] {
+          li->ListIndex = i;
+          li->Selected.assign(li->Lignes.size(), false);
+          if (i >= 0 && i < li->ListCount()) li->Selected[static_cast<std::size_t>(i)] = true;
+          if (li->Click) li->Click();
         });
       });
-      grille->addWidget(l, ligne++, 0, 1, 2);
-      grille->addWidget(w, ligne++, 0, 1, 2);
-      synchros_.push_back([w, li] {
-        if (w->count() != li->ListCount()) {
-          w->clear();
-          for (auto& r : li->Lignes) w->addItem(Q(r));
-        }
-        for (int i = 0; i < w->count(); ++i) {
-          bool sel = li->MultiSelect ? (i < static_cast<int>(li->Selected.size()) && li->Selected[static_cast<std::size_t>(i)])
-                                     : i == li->ListIndex;
-          w->item(i)->setSelected(sel);
-        }
-        Commun(w, *li);
-      });
     }
-  } else if (auto* e = dynamic_cast<Etiquette*>(c)) {
-    auto* w = new QLabel(Libelle(nom, *e), this);
+    connect(w, &QListWidget::itemDoubleClicked, this, [this, li, w](QListWidgetItem* it) {
+      const int i = w->row(it);
+      Action([li, i] {
+        li->ListIndex = i;
+        if (li->DblClick) li->DblClick();
+      });
+    });
+    auto* l = new QLabel(Q(libelle), this);
+    l->setBuddy(w);
+    grille_->addWidget(l, ligne_++, 0, 1, 2);
+    grille_->addWidget(w, ligne_++, 0, 1, 2);
+    auto lignes = std::make_shared<std::vector<std::string>>();
+    synchros_.push_back([w, l, li, lignes] {
+      if (*lignes != li->Lignes) {
+        *lignes = li->Lignes;
+        w->clear();
+        for (auto& r : li->Lignes) w->addItem(Q(r));
+      }
+      for (int i = 0; i < w->count(); ++i) {
+        const bool sel = li->MultiSelect ? (i < static_cast<int>(li->Selected.size()) && li->Selected[static_cast<std::size_t>(i)])
+                                         : i == li->ListIndex;
+        w->item(i)->setSelected(sel);
+      }
+      if (!li->MultiSelect) w->setCurrentRow(li->ListIndex < w->count() ? li->ListIndex : -1);
+      w->setEnabled(li->Enabled);
+      w->setVisible(li->Visible);
+      l->setVisible(li->Visible);
+    });
+    return;
+  }
+  if (auto* a = dynamic_cast<Apercu*>(c)) {
+    auto* w = new QLabel(this);
     w->setObjectName(on);
-    grille->addWidget(w, ligne++, 0, 1, 2);
-    synchros_.push_back([w, e, nom] { w->setText(Libelle(nom, *e)); Commun(w, *e); });
+    if (a->Surface) {
+      FinDeLigne();
+      w->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+      w->setAlignment(Qt::AlignCenter);
+      grille_->addWidget(w, ligne_++, 0, 1, 2, Qt::AlignHCenter);
+    } else if (suite_) {
+      suite_->addWidget(w);
+    } else {
+      nouvelleLigne(libelle, w);
+    }
+    synchros_.push_back([w, a] {
+      w->setPixmap(PixmapDe(*a));
+      w->setVisible(a->Visible);
+    });
+    return;
+  }
+  if (dynamic_cast<Etiquette*>(c)) {
+    FinDeLigne();
+    auto* w = new QLabel(Q(libelle), this);
+    w->setObjectName(on);
+    w->setWordWrap(true);
+    grille_->addWidget(w, ligne_++, 0, 1, 2);
+    synchros_.push_back([w, c, nom] {
+      w->setText(Q(c->Caption.empty() ? nom : c->Caption));
+      w->setVisible(c->Visible);
+    });
+  }
+}
+
+void DialogueQt::ConstruitTableau(const std::string& t, QBoxLayout* cadre) {
+  // Rows made by the program (one option per present mode): rebuilt when their captions change,
+  // their values followed at every synchronisation.
+  auto* boite = new QGroupBox(Q(LibelleDe(etat_.Nom, t)), this);
+  boite->setObjectName(Q("Cadre" + t));
+  auto* grille = new QGridLayout(boite);
+  cadre->addWidget(boite);
+  synchros_.push_back([this, t, boite, grille] {
+    std::vector<std::string> captions;
+    for (int i = 1; i < 100000; ++i) {
+      Controle* c = etat_.Cherche(t, i);
+      if (!c) break;
+      captions.push_back(c->Caption);
+    }
+    boite->setVisible(!captions.empty());
+    if (tableaux_[t] != captions) {
+      tableaux_[t] = captions;
+      while (QLayoutItem* it = grille->takeAt(0)) {
+        delete it->widget();
+        delete it;
+      }
+      const int colonnes = captions.size() > 8 ? 3 : 1;
+      for (int i = 1; i <= static_cast<int>(captions.size()); ++i) {
+        Controle* c = etat_.Cherche(t, i);
+        const QString nom = Q(t) + QString("(%1)").arg(i);
+        QAbstractButton* w = nullptr;
+        if (auto* k = dynamic_cast<CaseACocher*>(c)) {
+          auto* x = new QCheckBox(Q(k->Caption), boite);
+          connect(x, &QCheckBox::clicked, this, [this, t, i](bool v) {
+            Action([this, t, i, v] {
+              if (auto* kk = dynamic_cast<CaseACocher*>(etat_.Cherche(t, i))) {
+                kk->Value = v ? 1 : 0;
+                if (kk->Click) kk->Click();
+              }
+            });
+          });
+          w = x;
+        } else if (dynamic_cast<BoutonOption*>(c)) {
+          auto* x = new QRadioButton(Q(c->Caption), boite);
+          x->setAutoExclusive(false);
+          connect(x, &QRadioButton::clicked, this, [this, t, i] {
+            Action([this, t, i] {
+              for (int j = 1;; ++j) {
+                auto* o = dynamic_cast<BoutonOption*>(etat_.Cherche(t, j));
+                if (!etat_.Cherche(t, j)) break;
+                if (o) o->Value = j == i;
+              }
+              if (Controle* cc = etat_.Cherche(t, i); cc && cc->Click) cc->Click();
+            });
+          });
+          w = x;
+        } else {
+          auto* x = new QPushButton(Q(c->Caption), boite);
+          connect(x, &QPushButton::clicked, this, [this, t, i] {
+            Action([this, t, i] {
+              if (Controle* cc = etat_.Cherche(t, i); cc && cc->Click) cc->Click();
+            });
+          });
+          w = x;
+        }
+        w->setObjectName(nom);
+        grille->addWidget(w, (i - 1) / colonnes, (i - 1) % colonnes);
+      }
+    }
+    for (int i = 1; i <= static_cast<int>(captions.size()); ++i) {
+      Controle* c = etat_.Cherche(t, i);
+      auto* w = boite->findChild<QAbstractButton*>(Q(t) + QString("(%1)").arg(i));
+      if (!c || !w) continue;
+      if (auto* k = dynamic_cast<CaseACocher*>(c)) w->setChecked(k->Value != 0);
+      if (auto* o = dynamic_cast<BoutonOption*>(c)) w->setChecked(o->Value);
+      w->setEnabled(c->Enabled);
+      w->setVisible(c->Visible);
+    }
+  });
+}
+
+void DialogueQt::DonneTouchesDAcces() {
+  std::set<QChar> prises;
+  std::vector<QWidget*> sans;
+  auto texteDe = [](QWidget* w) -> QString {
+    if (auto* b = qobject_cast<QAbstractButton*>(w)) return b->text();
+    if (auto* l = qobject_cast<QLabel*>(w)) return l->buddy() ? l->text() : QString();
+    if (auto* g = qobject_cast<QGroupBox*>(w)) return g->title();
+    return {};
+  };
+  for (QWidget* w : findChildren<QWidget*>()) {
+    if (qobject_cast<QToolButton*>(w)) continue;
+    const QString t = texteDe(w);
+    if (t.isEmpty()) continue;
+    if (QChar k = ToucheDe(t); !k.isNull()) prises.insert(k);
+    else sans.push_back(w);
+  }
+  for (QWidget* w : sans) {
+    if (qobject_cast<QGroupBox*>(w)) continue;
+    const QString t = texteDe(w);
+    QChar choisie;
+    for (QChar ch : t)
+      if (ch.isLetterOrNumber() && !prises.count(ch.toLower())) {
+        choisie = ch.toLower();
+        break;
+      }
+    if (choisie.isNull()) continue;
+    prises.insert(choisie);
+    w->setProperty("touche", choisie);
+    if (auto* l = qobject_cast<QLabel*>(w)) l->setText(AvecTouche(t, choisie));
+    else if (auto* b = qobject_cast<QAbstractButton*>(w)) b->setText(AvecTouche(t, choisie));
   }
 }
 
 void DialogueQt::Construit() {
-  auto* grille = new QGridLayout;
-  int ligne = 0;
-  for (auto& [nom, c] : etat_.Controles()) AjouteControle(nom, c, grille, ligne);
-  // Control arrays (rows made by the program, such as one option per present mode): a
-  // sub-layout rebuilt when the number of elements changes.
-  auto* cadreTableaux = new QVBoxLayout;
-  for (const std::string& t : etat_.NomsTableaux()) tableaux_.push_back(t);
   auto* principal = new QVBoxLayout(this);
-  principal->addLayout(grille);
+  if (etat_.Nom == "Présentation") {
+    // The start-up screen and about box: the program's picture and name above the button.
+    auto* tete = new QHBoxLayout;
+    auto* icone = new QLabel(this);
+    icone->setPixmap(IconeOrva().pixmap(64, 64));
+    tete->addWidget(icone);
+    auto* titre = new QLabel(this);
+    titre->setObjectName("Titre");
+    titre->setText("<h1>ORVA</h1><p>Images de synthèse et cartographie des réseaux</p>");
+    tete->addWidget(titre, 1);
+    principal->addLayout(tete);
+  }
+  grille_ = new QGridLayout;
+  grille_->setColumnStretch(1, 1);
+  principal->addLayout(grille_);
+  boutonsBas_ = new QDialogButtonBox(this);
+  boutonsBas_->setObjectName("Boutons");
+  for (auto& [nom, c] : etat_.Controles()) AjouteControle(nom, c);
+  auto* cadreTableaux = new QVBoxLayout;
   principal->addLayout(cadreTableaux);
-  synchros_.push_back([this, cadreTableaux] {
-    for (const std::string& t : tableaux_) {
-      int n = 0;
-      while (etat_.Cherche(t, n + 1)) ++n;
-      if (tailleTableaux_[t] == n) continue;
-      tailleTableaux_[t] = n;
-      while (QLayoutItem* it = cadreTableaux->takeAt(0)) {
-        delete it->widget();
-        delete it;
-      }
-      for (int i = 1; i <= n; ++i) {
-        Controle* c = etat_.Cherche(t, i);
-        QString nom = Q(t) + QString("(%1)").arg(i);
-        if (auto* k = dynamic_cast<CaseACocher*>(c)) {
-          auto* w = new QCheckBox(Q(k->Caption), this);
-          w->setObjectName(nom);
-          w->setChecked(k->Value != 0);
-          connect(w, &QCheckBox::toggled, this, [this, k](bool v) {
-            Action([k, v] {
-              k->Value = v ? 1 : 0;
-              if (k->Click) k->Click();
-            });
-          });
-          cadreTableaux->addWidget(w);
-        } else if (auto* b = dynamic_cast<Bouton*>(c)) {
-          auto* w = new QPushButton(Q(b->Caption), this);
-          w->setObjectName(nom);
-          connect(w, &QPushButton::clicked, this, [this, b] { Action(b->Click); });
-          cadreTableaux->addWidget(w);
-        }
-      }
-    }
-  });
+  for (const std::string& t : etat_.NomsTableaux()) ConstruitTableau(t, cadreTableaux);
+  principal->addStretch();
+  principal->addWidget(boutonsBas_);
+  DonneTouchesDAcces();
   setWindowTitle(Q(etat_.Caption));
 }
 
@@ -255,10 +627,14 @@ void DialogueQt::Synchronise() {
 }
 
 void DialogueQt::reject() {
-  // Escape and the window's close button act as the dialog's "Annuler" when it has one.
+  // Escape and the window's close button act as the dialog's "Annuler" when it has one;
+  // otherwise they only hide it.
   for (auto& [nom, c] : etat_.Controles()) {
-    if (auto* b = dynamic_cast<Bouton*>(c); b && b->Caption == "Annuler" && b->Click) {
+    if (auto* b = dynamic_cast<Bouton*>(c); b && SansEsperluette(b->Caption) == "Annuler" && b->Click) {
+      if (!b->Enabled || !b->Visible) return;
       Action(b->Click);
+      if (etat_.Visible) return;
+      if (isVisible()) QDialog::done(0);
       return;
     }
   }
@@ -284,6 +660,7 @@ DialogueQt* DialogueDe(const std::string& nom, QWidget* parent) {
   if (!d) return nullptr;
   auto* q = new DialogueQt(*d, parent);
   faits[nom] = q;
+  QObject::connect(q, &QObject::destroyed, [nom] { faits.erase(nom); });
   return q;
 }
 

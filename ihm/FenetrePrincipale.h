@@ -1,6 +1,6 @@
-// The main window Orva: menus from the command table, the tool bar, the picture in its
-// frame, the status bar with its five panels and the progress panel. It only binds widgets to
-// the state and forwards events to the commands.
+// The main window Orva: menus from the command table, the zoom tool bar, the two pictures in
+// their frames, the status bar with its five panels and the progress panel. It only binds
+// widgets to the state and forwards events to the commands.
 #pragma once
 #include <QLabel>
 #include <QMainWindow>
@@ -11,20 +11,27 @@ class QAction;
 class QMenu;
 class QProgressBar;
 class QScrollArea;
+class QStackedWidget;
 class QToolBar;
 
 namespace orva {
 
-// The picture Ima: shows the surface's bitmap and forwards the mouse.
+struct SurfaceImage;
+
+// A picture (Ima or ImaVec): shows the surface's bitmap and forwards the mouse. ImaVec has the
+// handlers of the display only: no zoom on release.
 class ImageQt : public QLabel {
   Q_OBJECT
  public:
-  explicit ImageQt(QWidget* parent = nullptr);
+  ImageQt(const char* nom, bool avecZoom, QWidget* parent = nullptr);
 
  protected:
   void mousePressEvent(QMouseEvent* e) override;
   void mouseMoveEvent(QMouseEvent* e) override;
   void mouseReleaseEvent(QMouseEvent* e) override;
+
+ private:
+  bool avecZoom_;
 
  signals:
   void Agi();
@@ -50,23 +57,30 @@ class FenetrePrincipale : public QMainWindow {
   Q_OBJECT
  public:
   explicit FenetrePrincipale(QWidget* parent = nullptr);
-  // Brings menus (ticks, enabling), tool bar, picture and status bar in line with the state.
+  // Brings menus (ticks, enabling), tool bar, pictures and status bar in line with the state.
   void Synchronise();
   // Repaints one control at once (the platform's Refresh).
   void Repeint(const std::string& controle);
   QAction* Action(const std::string& nom) const;
+  QMenu* Menu(const std::string& nom) const;
+  // Runs a menu entry, a panel click or a tool bar button as a click does, then follows the state.
+  void ExecuteEntree(const std::string& nom);
+  void CliquePanneau(int n);
 
  private:
   void ConstruitMenus();
   void ConstruitBarreDOutils();
-  void AfficheImage();
+  void AfficheImages();
   std::map<std::string, QAction*> actions_;
   std::map<std::string, QMenu*> menus_;
   PanneauQt* panneaux_[6] = {};
   QProgressBar* progression_ = nullptr;
   QToolBar* barre_ = nullptr;
   ImageQt* image_ = nullptr;
+  ImageQt* imageVec_ = nullptr;
   QScrollArea* cadre_ = nullptr;
+  QScrollArea* cadreVec_ = nullptr;
+  QStackedWidget* cadres_ = nullptr;
 };
 
 }  // namespace orva

@@ -5,7 +5,11 @@
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QFontDialog>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QImage>
 #include <QInputDialog>
+#include <QUrl>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QProcess>
@@ -13,6 +17,7 @@
 
 #include "ihm/DialogueQt.h"
 #include "noyau/Controles.h"
+#include "noyau/Erreurs.h"
 #include "noyau/Fichiers.h"
 
 namespace orva {
@@ -122,24 +127,32 @@ std::optional<Police> PortQt::DialoguePolice(const Police& initiale) {
 
 void PortQt::MontreDialogue(const std::string& nom, bool modal) {
   if (nom == "Orva") return;  // the main window shows itself
+  Dialogue* etat = ChercheDialogue(nom);
+  if (!etat) return;
+  // Dialogs are loaded once, before their first showing, and stay loaded.
+  if (charges_.insert(nom).second && etat->Load) etat->Load();
+  if (modal && modaux_.count(nom)) throw ErreurExecution(400, "Feuille déjà affichée ; affichage modal impossible");
   DialogueQt* d = DialogueDe(nom, parent_);
   if (!d) return;
+  etat->Visible = true;
   d->Synchronise();
-  if (modal) {
-    // Runs until a command of the dialog hides it.
-    while (d->Etat().Visible) d->exec();
-  } else {
+  if (!modal) {
+    d->setModal(false);
     d->show();
     d->raise();
+    d->activateWindow();
+    return;
   }
+  modaux_.insert(nom);
+  // Runs until a command of the dialog hides it.
+  while (etat->Visible && !quitte_) d->exec();
+  modaux_.erase(nom);
+  if (quitte_) throw ErreurExecution(ErrAnnulation, "");
 }
 
 void PortQt::CacheDialogue(const std::string& nom) {
   DialogueQt* d = DialogueDe(nom, parent_);
-  if (d && d->isVisible()) {
-    if (d->isModal()) d->done(0);
-    else d->hide();
-  }
+  if (d && d->isVisible()) d->done(0);
 }
 
 void PortQt::Sablier(bool occupe) {
@@ -150,23 +163,56 @@ void PortQt::Sablier(bool occupe) {
 void PortQt::DoEvents() { QApplication::processEvents(); }
 
 void PortQt::Rafraichit(const std::string& controle) {
+  // A dialog, or a picture of a dialog ("AspectVisuelNoeuds.Picture1"): the dialog follows its
+  // state and paints at once.
+  const std::string dialogue = controle.substr(0, controle.find('.'));
+  if (dialogue != "Orva" && ChercheDialogue(dialogue)) {
+    if (DialogueQt* d = DialogueDe(dialogue, parent_)) {
+      d->Synchronise();
+      if (d->isVisible()) {
+        QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        d->repaint();
+      }
+    }
+    return;
+  }
   if (Repeint) Repeint(controle);
 }
 
 void PortQt::LanceProgramme(const std::string& ligne) {
   QStringList args = QProcess::splitCommand(Q(ligne));
   if (args.isEmpty()) return;
+  if (args.size() == 1 && QFileInfo(args.front()).isFile()) {
+    QDesktopServices::openUrl(QUrl::fromLocalFile(args.front()));
+    return;
+  }
   QString prog = args.takeFirst();
-  QProcess::startDetached(prog, args);
+  if (!QProcess::startDetached(prog, args))
+    Message("Impossible de lancer le programme : " + ligne, Icone::Exclamation, "ORVA");
 }
 
 void PortQt::PressePapiers(const std::vector<uint8_t>& metafichier, const std::vector<uint8_t>& png) {
   auto* m = new QMimeData;
   m->setData("image/x-wmf", QByteArray(reinterpret_cast<const char*>(metafichier.data()), static_cast<qsizetype>(metafichier.size())));
   m->setData("image/png", QByteArray(reinterpret_cast<const char*>(png.data()), static_cast<qsizetype>(png.size())));
+  QImage image;
+  if (image.loadFromData(m->data("image/png"), "PNG")) m->setImageData(image);
   QApplication::clipboard()->setMimeData(m);
 }
 
-void PortQt::Quitte() { QApplication::exit(0); }
+void PortQt::Quitte() {
+  quitte_ = true;
+  QApplication::exit(0);
+}
+
+void ExecuteProtege(const std::string& commande, const std::function<void()>& f) {
+  try {
+    f();
+  } catch (const ErreurExecution& e) {
+    if (e.Numero != ErrAnnulation) RapporteErreur(commande, e.Numero, e.Texte());
+  } catch (const std::exception& e) {
+    RapporteErreur(commande, 0, e.what());
+  }
+}
 
 }  // namespace orva

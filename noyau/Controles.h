@@ -25,9 +25,12 @@ struct CaseACocher : Controle {
   int16_t Value = 0;
 };
 
-// Option (radio) button: Value true for the chosen one of its group.
+// Option (radio) button: Value true for the chosen one of its group. Options of one dialog with
+// the same Groupe exclude one another; "" is the dialog's own group. The GUI draws a named group
+// in a frame of that caption.
 struct BoutonOption : Controle {
   bool Value = false;
+  std::string Groupe;
 };
 
 // Text box or masked edit.
@@ -36,7 +39,9 @@ struct ZoneTexte : Controle {
   std::function<void()> Change;
 };
 
-// Spin button, gauge, scroll bar.
+// Spin button, gauge, scroll bar. A spin button ("Spin..." with Min -1 and Max 1) rests at 0: a
+// click on its up arrow sets Value to 1, on its down arrow to -1, and runs Change, which takes one
+// step and puts the value back to 0 (in a scenario: `Dialogue.Spin1 = 1` or `= -1`).
 struct Curseur : Controle {
   long Value = 0;
   long Min = 0;

@@ -19,10 +19,12 @@ void Cache() {
 
 std::string Degres(long v) { return CStr(v) + " deg"; }
 
-// The gauges follow the angles: 0..180 for the tilt, angle + 180 for the rotation.
-void MetAJourJauges() {
-  Angles.Gauge1.Value = Angles.Spin1.Value;
-  Angles.Gauge3.Value = Angles.Spin3.Value + 180;
+// A spin's value says the direction of the click, then comes back to rest.
+void Tourne(Curseur& spin, void (*haut)(), void (*bas)()) {
+  long v = spin.Value;
+  spin.Value = 0;
+  if (v > 0) haut();
+  if (v < 0) bas();
 }
 
 }  // namespace
@@ -34,11 +36,13 @@ void EnregistreAngles() {
   d.Caption = "Angles de vue de la représentation";
   d.Texte1.Text = Degres(0);
   d.Texte3.Text = Degres(0);
-  d.Spin1.Min = 0;
-  d.Spin1.Max = 180;
+  for (Curseur* s : {&d.Spin1, &d.Spin3}) {
+    s->Min = -1;
+    s->Max = 1;
+  }
+  d.Spin1.Change = [] { ExecuteCommande("Angles.Spin1", [] { Tourne(Angles.Spin1, AnglesSpin1Haut, AnglesSpin1Bas); }); };
+  d.Spin3.Change = [] { ExecuteCommande("Angles.Spin3", [] { Tourne(Angles.Spin3, AnglesSpin3Haut, AnglesSpin3Bas); }); };
   d.Gauge1.Max = 180;
-  d.Spin3.Min = -180;
-  d.Spin3.Max = 180;
   d.Gauge3.Max = 360;
   d.Gauge3.Value = 180;
   d.ListeModifiable1.Combo = true;
@@ -100,22 +104,23 @@ void AnglesCommande2() {
   AnnuleTrace = Vrai;
 }
 
-// Spin buttons step the typed angle by 1 degree.
+// Spin buttons step the typed angle by 1 degree; the gauges follow: 0..180 for the tilt, angle +
+// 180 for the rotation.
 namespace {
-void Pas(ZoneTexte& texte, Curseur& spin, int pas, long bas, long haut) {
+void Pas(ZoneTexte& texte, Curseur& jauge, long decalage, int pas, long bas, long haut) {
   long v = CLng(Val(texte.Text));
   if (pas > 0 && v <= haut) ++v;
   if (pas < 0 && v > bas) --v;
-  spin.Value = v;
   texte.Text = Degres(v);
-  MetAJourJauges();
+  const long g = v + decalage;
+  jauge.Value = g < jauge.Min ? jauge.Min : g > jauge.Max ? jauge.Max : g;
 }
 }  // namespace
 
-void AnglesSpin1Haut() { Pas(Angles.Texte1, Angles.Spin1, 1, 0, 179); }
-void AnglesSpin1Bas() { Pas(Angles.Texte1, Angles.Spin1, -1, 0, 179); }
+void AnglesSpin1Haut() { Pas(Angles.Texte1, Angles.Gauge1, 0, 1, 0, 179); }
+void AnglesSpin1Bas() { Pas(Angles.Texte1, Angles.Gauge1, 0, -1, 0, 179); }
 // The up button of the rotation tests 179 before the step, so 180 is the last value.
-void AnglesSpin3Haut() { Pas(Angles.Texte3, Angles.Spin3, 1, -180, 179); }
-void AnglesSpin3Bas() { Pas(Angles.Texte3, Angles.Spin3, -1, -180, 179); }
+void AnglesSpin3Haut() { Pas(Angles.Texte3, Angles.Gauge3, 180, 1, -180, 179); }
+void AnglesSpin3Bas() { Pas(Angles.Texte3, Angles.Gauge3, 180, -1, -180, 179); }
 
 }  // namespace orva

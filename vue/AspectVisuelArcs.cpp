@@ -55,6 +55,7 @@ void ChargeModeCourant() {
   MontreEpaisseurs(ModeCourant.EpaisseurFond, ModeCourant.Epaisseur);
   for (BoutonOption* o : {&d.Option3D6, &d.Option3D7, &d.Option3D8}) o->Value = false;
   d.Option3D6.Value = true;
+  for (BoutonOption* o : {&d.Option3D6, &d.Option3D7, &d.Option3D8}) o->Groupe = "Comparaison des hypothèses";
   d.LettreOption = 'C';
   MontreCouleur(ModeCourant.CouleurCommun);
   DessineApercuArcs();
@@ -147,7 +148,11 @@ void EnregistreAspectVisuelArcs() {
   d.Ajoute("Spin1", d.Spin1);
   d.Ajoute("Text2", d.Text2);
   d.Ajoute("Spin2", d.Spin2);
+  d.Picture1.Surface = &ApercuArcs;
+  d.Ajoute("Picture1", d.Picture1);
   d.Ajoute("Commande2", d.Commande2);
+  d.Image1.Couleur = &d.CouleurImage1;
+  d.Ajoute("Image1", d.Image1);
   d.Ajoute("Combo1", d.Combo1);
   d.Ajoute("Text3", d.Text3);
   d.Ajoute("Option3D6", d.Option3D6);

@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "noyau/Controles.h"
+#include "vue/Apercu.h"
 #include "vue/Surface.h"
 
 namespace orva {
@@ -23,6 +24,7 @@ struct EtatAspectVisuelArcs : Dialogue {
   Bouton Command1, Commande1;       // OK, "Annuler"
   int32_t CouleurImage1 = 0;        // the colour shown in Image1
   char LettreOption = 'C';          // the colour being edited: "C", "P" or "M"
+  Apercu Image1, Picture1;          // the colour shown, the preview ApercuArcs
 };
 inline EtatAspectVisuelArcs AspectVisuelArcs;
 // The preview Picture1 of the dialog.

@@ -55,6 +55,7 @@ void EnregistreAspectVisuelArcsAttr() {
   d.Option3D1.Caption = "1";
   d.Option3D2.Caption = "2";
   d.Option3D3.Caption = "3";
+  for (BoutonOption* o : {&d.Option3D1, &d.Option3D2, &d.Option3D3}) o->Groupe = "Attraction d'ordre :";
   d.Command1.Caption = "OK";
   d.Spin1.Change = [] {
     ExecuteCommande("AspectVisuelArcsAttr.Spin1", [] { Tourne(AspectVisuelArcsAttr.Spin1, AspectVisuelArcsAttr.Text1); });
@@ -71,7 +72,11 @@ void EnregistreAspectVisuelArcsAttr() {
   d.Ajoute("Spin1", d.Spin1);
   d.Ajoute("Text2", d.Text2);
   d.Ajoute("Spin2", d.Spin2);
+  d.Picture1.Surface = &ApercuArcsAttr;
+  d.Ajoute("Picture1", d.Picture1);
   d.Ajoute("Commande2", d.Commande2);
+  d.Image1.Couleur = &d.CouleurImage1;
+  d.Ajoute("Image1", d.Image1);
   d.Ajoute("Option3D1", d.Option3D1);
   d.Ajoute("Option3D2", d.Option3D2);
   d.Ajoute("Option3D3", d.Option3D3);

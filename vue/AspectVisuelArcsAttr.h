@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "noyau/Controles.h"
+#include "vue/Apercu.h"
 #include "vue/Surface.h"
 
 namespace orva {
@@ -26,6 +27,7 @@ struct EtatAspectVisuelArcsAttr : Dialogue {
   Bouton Command1;                               // closes
   int32_t CouleurImage1 = 0;
   int OrdreCourant = 0;                          // the order being edited, 0..2
+  Apercu Image1, Picture1;                       // the colour shown, the preview ApercuArcsAttr
 };
 inline EtatAspectVisuelArcsAttr AspectVisuelArcsAttr;
 inline SurfaceImage ApercuArcsAttr{"AspectVisuelArcsAttr.Picture1"};

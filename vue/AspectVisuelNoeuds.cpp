@@ -66,6 +66,8 @@ void EnregistreAspectVisuelNoeuds() {
   d.Command3D4.Click = [] { Ferme(true); };
   d.Ajoute("Combo1", d.Combo1);
   d.Ajoute("Combo2", d.Combo2);
+  d.Picture1.Surface = &ApercuNoeuds;
+  d.Ajoute("Picture1", d.Picture1);
   d.Ajoute("Command3D1", d.Command3D1);
   d.Ajoute("Command3D2", d.Command3D2);
   d.Ajoute("CouleursModes", d.CouleursModes);

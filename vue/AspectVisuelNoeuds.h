@@ -3,6 +3,7 @@
 // while it draws.
 #pragma once
 #include "noyau/Controles.h"
+#include "vue/Apercu.h"
 #include "vue/Surface.h"
 
 namespace orva {
@@ -13,6 +14,7 @@ struct EtatAspectVisuelNoeuds : Dialogue {
   CaseACocher CouleursModes, Minuscules;
   Bouton Police, Seuils;
   Bouton Command3D3, Command3D4;       // OK, "Annuler"
+  Apercu Picture1;                     // the preview ApercuNoeuds
 };
 inline EtatAspectVisuelNoeuds AspectVisuelNoeuds;
 // The preview Picture1 of the dialog.

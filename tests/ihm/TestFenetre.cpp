@@ -1,0 +1,452 @@
+// The GUI on Qt's offscreen platform: the main window, its menu tree, tool bar, status bar and
+// pictures, and the dialogs of the view driven through their widgets, as a user would.
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QStackedWidget>
+#include <QTest>
+#include <QTimer>
+#include <QToolBar>
+#include <QToolButton>
+#include <array>
+#include <filesystem>
+#include <functional>
+#include <sstream>
+
+#include "ihm/DialogueQt.h"
+#include "ihm/FenetrePrincipale.h"
+#include "ihm/PortQt.h"
+#include "noyau/Def.h"
+#include "noyau/Demarrage.h"
+#include "noyau/Orva.h"
+#include "scenario/Scenario.h"
+#include "vue/Angles.h"
+#include "vue/AspectVisuelNoeuds.h"
+#include "vue/OptionsRedess.h"
+#include "vue/Projection.h"
+#include "vue/Souris.h"
+#include "vue/Surface.h"
+
+namespace orva {
+namespace {
+
+QApplication* Application() {
+  static int argc = 1;
+  static char nom[] = "tests_ihm";
+  static char* argv[] = {nom, nullptr};
+  static QApplication* app = [] {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    return new QApplication(argc, argv);
+  }();
+  return app;
+}
+
+// Runs `f` on the modal widget named `nom` (a QMessageBox for "QMessageBox") once it is up.
+// After five seconds without it, whatever modal is up is rejected, so that a test fails instead
+// of hanging.
+void QuandModal(const QString& nom, std::function<void(QWidget*)> f, int essais = 500) {
+  QTimer::singleShot(10, [nom, f, essais] {
+    QWidget* w = QApplication::activeModalWidget();
+    const bool trouve = w && (nom == "QMessageBox" ? w->inherits("QMessageBox") : w->objectName() == nom);
+    if (trouve) {
+      f(w);
+      return;
+    }
+    if (essais <= 0) {
+      ADD_FAILURE() << "pas de dialogue modal " << nom.toStdString();
+      if (auto* d = qobject_cast<QDialog*>(w)) d->reject();
+      return;
+    }
+    QuandModal(nom, f, essais - 1);
+  });
+}
+
+template <class W>
+W* Enfant(QWidget* w, const char* nom) {
+  W* r = w->findChild<W*>(nom);
+  EXPECT_NE(r, nullptr) << nom;
+  return r;
+}
+
+void Tape(QLineEdit* champ, const QString& texte) {
+  champ->selectAll();
+  QTest::keyClick(champ, Qt::Key_Delete);
+  QTest::keyClicks(champ, texte);
+}
+
+long PixelsNonBlancs(const QImage& im) {
+  long n = 0;
+  for (int y = 0; y < im.height(); ++y)
+    for (int x = 0; x < im.width(); ++x)
+      if ((im.pixel(x, y) & 0xFFFFFF) != 0xFFFFFF) ++n;
+  return n;
+}
+
+struct EntreeAttendue {
+  const char* parent;
+  const char* nom;
+  const char* caption;  // nullptr: no caption given
+};
+
+// The menu tree, in order, with captions and access keys.
+const EntreeAttendue kMenus[] = {
+    {"", "menFichiers", "&Fichier"},
+    {"menFichiers", "menFichierVilles", "Fichier des n&oeuds..."},
+    {"menFichiers", "menFichierOriginesDestinations", "Fichier des ar&cs..."},
+    {"menFichiers", "menLectFichFacettes", "Lecture du fichier de &facettes..."},
+    {"menFichiers", "menFichiersGraphe", "&Fichiers du graphe..."},
+    {"menFichiers", "menFichierAttractions", "Fichier du type &arc-valeur "},
+    {"menFichierAttractions", "menFichierODVal1", "Numéro &1 (état final)..."},
+    {"menFichierAttractions", "menFichierODVal2", "Numéro &2 (état initial)..."},
+    {"menFichiers", "menFichierCodeValeur", "Fichier du type &noeud-valeur"},
+    {"menFichierCodeValeur", "menFichierCodeValeur1", "Numéro &1 (état final) ..."},
+    {"menFichierCodeValeur", "menFichierCodeValeur2", "Numéro &2 (état initial)..."},
+    {"menFichierCodeValeur", "menCodeValEnZ", "Intégrer NoeudVal1 au \"&z\" des noeuds"},
+    {"menFichiers", "menStatistiques", "&Statistiques..."},
+    {"menFichiers", "menExploration", "E&xploration..."},
+    {"menFichiers", "menSortie", "&Quitter"},
+    {"", "menImage", "&Image"},
+    {"menImage", "menAngles", "&Angles de vue..."},
+    {"menImage", "menZoomSouris", "Zoom curseur (&souris)"},
+    {"menImage", "menParamAffichage", "Zoom et &taille de l'image..."},
+    {"menImage", "menZoomBarreOutils", "&Barre d'outils zoom visible"},
+    {"menImage", "menImageVectorielle", "Image &vectorielle"},
+    {"menImage", "menImprimeImage", "&Enregistre l'image..."},
+    {"menImage", "menCopieImage", "&Copie l'image (dans le presse-papiers)"},
+    {"menImage", "menCréeFichDXF", "Crée un fichier D&XF..."},
+    {"menImage", "menChargeImageFond", "Charge une &image en fond..."},
+    {"menImage", "menRedessine", "&Redessine"},
+    {"menImage", "menOptionsRedessine", "&Options pour redessiner..."},
+    {"menImage", "menEffaceImage", "E&fface l'image"},
+    {"", "menVilles", "&Noeuds"},
+    {"menVilles", "menAfficheVilles", "Affiche les &noeuds"},
+    {"menVilles", "menAfficheNomsVilles", "Affiche les no&ms des noeuds"},
+    {"menVilles", "menAfficheRonds", "Affic&he sur les noeuds"},
+    {"menAfficheRonds", "menAfficheValeur1", "La valeur &1 (état final)"},
+    {"menAfficheRonds", "menAfficheValeur2", "La valeur &2 (état initial)"},
+    {"menAfficheRonds", "menMultiplication", "La &multiplication (1x2)"},
+    {"menAfficheRonds", "menAfficheDiffAbsolues", "Les différences &absolues"},
+    {"menAfficheRonds", "menAfficheDiffRelatives", "Les différences &relatives"},
+    {"menAfficheRonds", "menAffichePopulations", "Les &populations"},
+    {"menAfficheRonds", "menAfficheAutoAttractions", "Les a&uto-attractions"},
+    {"menVilles", "menModifieNoeuds", "Mo&difie les noeuds..."},
+    {"menVilles", "menOptionsAffichageVilles", "Paramétres d'affichage des n&oeuds..."},
+    {"menVilles", "menOptionsAffichageNoms", "Seuils d'a&ffichage des noms..."},
+    {"", "menArcs", "&Arcs"},
+    {"menArcs", "menTraceTrajets", "Trace les &arcs..."},
+    {"menArcs", "menAfficheValeursArcs", "Affic&he sur les arcs..."},
+    {"menAfficheValeursArcs", "menAfficheAttractions", "Les &attractions"},
+    {"menAfficheValeursArcs", "menAfficheProbabilités", "Les &probabilités"},
+    {"menAfficheValeursArcs", "menAfficheFlux", "Les &flux orientés"},
+    {"menAfficheValeursArcs", "menAfficheFluxNonOrientes", "Les flux &non-orientés"},
+    {"menAfficheValeursArcs", "menAfficheSurfacesFlux", "Les &surfaces de flux"},
+    {"menAfficheValeursArcs", "menClassesArcs", "Les c&lasses des arcs"},
+    {"menAfficheValeursArcs", "menFluxNonOrientésEtModes", "Les flux et les &modes"},
+    {"menArcs", "menCouleursNoeuds", "Les &couleurs des noeuds"},
+    {"menArcs", "menEchelleBlindéeArcs", "Echelle blin&dée"},
+    {"menArcs", "menModifieOD", "&Modifie les arcs..."},
+    {"menArcs", "menDéveloppmentHoraire", "Développement &horaire"},
+    {"menArcs", "menOptimisationHoraire", "Op&timisation horaire"},
+    {"menArcs", "menElimineArcsDéconnectés", "Elimine arcs &déconnectés..."},
+    {"menArcs", "menArcsTrajets", "Aspect des a&rcs..."},
+    {"menArcs", "menOptionsAttractions", "&Seuil d'affichage des arcs..."},
+    {"menArcs", "menArcsAttractions", "Arcs des attract&ions..."},
+    {"", "menRelief", "&Relief"},
+    {"menRelief", "menTraceRelief", "Trace le &relief"},
+    {"menRelief", "menAnamorphose", "&Anamorphose"},
+    {"menRelief", "menOptionsRelief", "&Options du relief..."},
+    {"menRelief", "menValuation", "&Valuation de la représentation"},
+    {"menValuation", "menValuationTemps", "&Temps"},
+    {"menValuation", "menValuationCoût", "&Coût"},
+    {"menValuation", "menValuationODVal", "&Basée sur ArcVal"},
+    {"menValuation", "menPasDeValuation", "&Pas de valuation"},
+    {"menRelief", "menFichierRelief3d", "Prépare le &fichier relief 3d"},
+    {"menRelief", "menCoûts", "Options des co&ûts..."},
+    {"menRelief", "menCouleur", "Eclaircir la &couleur du relief..."},
+    {"", "menAide", nullptr},
+    {"menAide", "menAPropos", "&A propos de ORVA..."},
+};
+
+class Ihm : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    Application();
+    ReinitialiseTout();
+    DefinitPort(&port);
+    fenetre = new FenetrePrincipale;
+    port.DefinitParent(fenetre);
+    port.Repeint = [this](const std::string& c) { fenetre->Repeint(c); };
+    DialogueQt::ApresAction = [this] { fenetre->Synchronise(); };
+    CandidatsRacine = {ORVA_SOURCE};
+    ChargePresentation();
+    fenetre->Synchronise();
+    fenetre->show();
+  }
+  void TearDown() override {
+    DialogueQt::ApresAction = nullptr;
+    DefinitPort(nullptr);
+    delete fenetre;
+    CandidatsRacine.clear();
+  }
+  void Clique(const char* entree) {
+    QAction* a = fenetre->Action(entree);
+    ASSERT_NE(a, nullptr) << entree;
+    a->trigger();
+  }
+  PortQt port;
+  FenetrePrincipale* fenetre = nullptr;
+};
+
+void Parcourt(QMenu* menu, const std::string& parent, std::vector<std::array<std::string, 3>>& vu) {
+  for (QAction* a : menu->actions()) {
+    if (a->isSeparator()) continue;
+    vu.push_back({parent, a->objectName().toStdString(), a->text().toStdString()});
+    if (a->menu()) Parcourt(a->menu(), a->objectName().toStdString(), vu);
+  }
+}
+
+TEST_F(Ihm, FenetreEtArbreDesMenus) {
+  EXPECT_EQ(fenetre->windowTitle(), QString("ORVA - Images de synthèse et cartographie des réseaux"));
+  EXPECT_EQ(NbNoeuds, 157);
+  EXPECT_FALSE(Presentation.Visible);
+  EXPECT_EQ(Presentation.Caption, "A propos de ORVA...");
+  std::vector<std::array<std::string, 3>> vu;
+  for (QAction* a : fenetre->menuBar()->actions()) {
+    vu.push_back({"", a->objectName().toStdString(), a->text().toStdString()});
+    if (a->menu()) Parcourt(a->menu(), a->objectName().toStdString(), vu);
+  }
+  ASSERT_EQ(vu.size(), std::size(kMenus));
+  for (std::size_t i = 0; i < vu.size(); ++i) {
+    const EntreeAttendue& e = kMenus[i];
+    EXPECT_EQ(vu[i][0], e.parent) << e.nom;
+    EXPECT_EQ(vu[i][1], e.nom);
+    if (e.caption) {
+      EXPECT_EQ(vu[i][2], e.caption) << e.nom;
+    }
+    // Entries not built yet are there, disabled, and say so.
+    const EntreeMenu* m = Orva.Menu(e.nom);
+    ASSERT_NE(m, nullptr) << e.nom;
+    QAction* a = fenetre->Action(e.nom);
+    EXPECT_EQ(a->isEnabled(), m->Enabled && m->Disponible) << e.nom;
+    if (!m->Disponible) {
+      EXPECT_EQ(a->toolTip(), QString("pas encore disponible")) << e.nom;
+    }
+  }
+  for (const char* construite : {"menAngles", "menParamAffichage", "menRedessine", "menOptionsRedessine",
+                                 "menEffaceImage", "menZoomSouris", "menZoomBarreOutils", "menSortie"})
+    EXPECT_TRUE(fenetre->Action(construite)->isEnabled()) << construite;
+}
+
+TEST_F(Ihm, BarreDOutilsPanneauxEtSouris) {
+  auto* barre = Enfant<QToolBar>(fenetre, "BarreDOutils");
+  EXPECT_FALSE(barre->isVisible());
+  EXPECT_EQ(barre->actions().size(), 6);
+  for (QAction* a : barre->actions()) EXPECT_FALSE(a->icon().isNull());
+  Clique("menZoomBarreOutils");
+  EXPECT_TRUE(barre->isVisible());
+  EXPECT_TRUE(fenetre->Action("menZoomBarreOutils")->isChecked());
+  // Button 5 moves the view by 0.02 of the width.
+  const double x = DecalageX;
+  fenetre->findChild<QAction*>("BarreDOutils5")->trigger();
+  EXPECT_DOUBLE_EQ(DecalageX, x + 0.02 * Ima.ScaleWidth());
+
+  EXPECT_TRUE(Enfant<QLabel>(fenetre, "StatusBar1")->text().startsWith("157 noeuds"));
+  EXPECT_EQ(Enfant<QLabel>(fenetre, "StatusBar4")->text(), QString("Bitmap "));
+  auto* cadres = fenetre->findChild<QStackedWidget*>();
+  QTest::mouseClick(Enfant<QLabel>(fenetre, "StatusBar4"), Qt::LeftButton);
+  EXPECT_EQ(Enfant<QLabel>(fenetre, "StatusBar4")->text(), QString("MétaFichier "));
+  EXPECT_EQ(cadres->currentWidget()->objectName(), QString("ImaContientImaVec"));
+  QTest::mouseClick(Enfant<QLabel>(fenetre, "StatusBar4"), Qt::LeftButton);
+  EXPECT_EQ(cadres->currentWidget()->objectName(), QString("ImaContientIma"));
+
+  // The mouse: its position in panel 3; a click zooms once menZoomSouris is ticked, a drag of 50
+  // or more does not.
+  auto* ima = Enfant<QLabel>(fenetre, "Ima");
+  QTest::mouseMove(ima, QPoint(100, 200));
+  QMouseEvent mouvement(QEvent::MouseMove, QPointF(100, 200), ima->mapToGlobal(QPointF(100, 200)), Qt::NoButton,
+                        Qt::NoButton, Qt::NoModifier);
+  QApplication::sendEvent(ima, &mouvement);
+  EXPECT_EQ(Enfant<QLabel>(fenetre, "StatusBar3")->text(),
+            QString::fromStdString(Orva.StatusBar[3]));
+  EXPECT_FALSE(Orva.StatusBar[3].empty());
+  const double echelle = EchelleVue;
+  QTest::mouseClick(ima, Qt::LeftButton, {}, QPoint(300, 300));
+  EXPECT_DOUBLE_EQ(EchelleVue, echelle);
+  Clique("menZoomSouris");
+  EXPECT_EQ(PointeurIma, 2);
+  EXPECT_EQ(ima->cursor().shape(), Qt::CrossCursor);
+  QTest::mouseClick(ima, Qt::LeftButton, {}, QPoint(300, 300));
+  EXPECT_DOUBLE_EQ(EchelleVue, echelle * 1.05);
+  QTest::mousePress(ima, Qt::LeftButton, {}, QPoint(100, 100));
+  QTest::mouseRelease(ima, Qt::LeftButton, {}, QPoint(125, 125));
+  EXPECT_DOUBLE_EQ(EchelleVue, echelle * 1.05);
+}
+
+TEST_F(Ihm, RedessineEtEffaceImage) {
+  const long avant = PixelsNonBlancs(Ima.Image());
+  EXPECT_GT(avant, 0);
+  Clique("menRedessine");
+  EXPECT_GT(PixelsNonBlancs(Ima.Image()), avant);
+  Clique("menEffaceImage");
+  EXPECT_EQ(PixelsNonBlancs(Ima.Image()), 0);
+  // The picture in the frame is the bitmap of Ima.
+  auto* ima = Enfant<QLabel>(fenetre, "Ima");
+  EXPECT_EQ(ima->pixmap().size(), Ima.Image().size());
+  Clique("menOptionsRedessine");
+  QWidget* options = fenetre->findChild<QDialog*>("OptionsRedess");
+  ASSERT_NE(options, nullptr);
+  EXPECT_TRUE(options->isVisible());
+  auto* noms = Enfant<QCheckBox>(options, "AfficheNomsNoeuds");
+  EXPECT_EQ(noms->text().remove('&'), QString("Affiche les noms"));
+  noms->click();
+  EXPECT_EQ(OptionsRedess.AfficheNomsNoeuds.Value, 1);
+  Enfant<QPushButton>(options, "Command3D1")->click();
+  EXPECT_FALSE(options->isVisible());
+}
+
+TEST_F(Ihm, AnglesValidePuisAnnuleParLaFermeture) {
+  QuandModal("Angles", [](QWidget* d) {
+    EXPECT_EQ(d->windowTitle(), QString("Angles de vue de la représentation"));
+    Tape(Enfant<QLineEdit>(d, "Texte1"), "30");
+    auto* haut = Enfant<QToolButton>(d, "Spin3.Haut");
+    haut->click();
+    haut->click();
+    Enfant<QToolButton>(d, "Spin3.Bas")->click();
+    auto* centre = Enfant<QComboBox>(d, "ListeModifiable1");
+    EXPECT_GE(centre->count(), 157);
+    Tape(centre->lineEdit(), "PARIS");
+    Enfant<QPushButton>(d, "Commande1")->click();
+  });
+  Clique("menAngles");
+  EXPECT_FALSE(Angles.Visible);
+  EXPECT_EQ(AnnuleTrace, Faux);
+  EXPECT_EQ(Angles.Texte3.Text, "1 deg");
+  EXPECT_EQ(Angles.Gauge3.Value, 181);
+  EXPECT_DOUBLE_EQ(InclinaisonDegres, 30);
+  EXPECT_DOUBLE_EQ(Inclinaison, 30 * Pi / 180);
+  EXPECT_DOUBLE_EQ(Rotation, 1 * Pi / 180);
+  EXPECT_EQ(NoeudCentre, "PARI");
+
+  // The window's close button acts as "Annuler".
+  QuandModal("Angles", [](QWidget* d) { d->close(); });
+  Clique("menAngles");
+  EXPECT_FALSE(Angles.Visible);
+  EXPECT_EQ(AnnuleTrace, Vrai);
+  EXPECT_DOUBLE_EQ(InclinaisonDegres, 30);
+}
+
+TEST_F(Ihm, ParamAffichagePresetEtChiffreQuiDeborde) {
+  QuandModal("ParamAffichage", [](QWidget* d) {
+    EXPECT_EQ(Enfant<QLineEdit>(d, "CoefficientZoom")->text(), QString("3"));
+    auto* liste = Enfant<QListWidget>(d, "ListeDesEspaces");
+    ASSERT_EQ(liste->count(), 10);
+    EXPECT_EQ(liste->item(2)->text().trimmed(), QString("France 508"));
+    liste->setCurrentRow(2);
+    EXPECT_EQ(Enfant<QLineEdit>(d, "HauteurImage")->text(), QString("19.5"));
+    Enfant<QPushButton>(d, "Command3D2")->click();
+  });
+  Clique("menParamAffichage");
+  EXPECT_EQ(AnnuleTrace, Faux);
+  EXPECT_NEAR(EchelleVue, 0.9765, 1e-9);
+  EXPECT_NEAR(DecalageX, 50, 1e-9);
+  EXPECT_EQ(Ima.Height, 195);
+  EXPECT_EQ(Ima.Width, 210);
+  EXPECT_EQ(Enfant<QLabel>(fenetre, "Ima")->pixmap().size(), Ima.Image().size());
+
+  // A height that overflows 16 bits: the command's handler reports it, nothing changes.
+  std::string message;
+  QuandModal("ParamAffichage", [&message](QWidget* d) {
+    Tape(Enfant<QLineEdit>(d, "HauteurImage"), "99999");
+    QuandModal("QMessageBox", [&message](QWidget* b) {
+      message = static_cast<QMessageBox*>(b)->text().toStdString();
+      static_cast<QMessageBox*>(b)->buttons().front()->click();
+    });
+    Enfant<QPushButton>(d, "Command3D2")->click();
+  });
+  Clique("menParamAffichage");
+  EXPECT_NE(message.find("Erreur 6"), std::string::npos) << message;
+  EXPECT_EQ(Ima.Height, 195);
+}
+
+TEST_F(Ihm, AspectDesNoeudsApercuEtModesDeTraceArcs) {
+  QuandModal("AspectVisuelNoeuds", [](QWidget* d) {
+    auto* rayon = Enfant<QComboBox>(d, "Combo1");
+    ASSERT_EQ(rayon->count(), 60);
+    rayon->activated(9);
+    EXPECT_EQ(RayonNoeud, 10);
+    auto* apercu = Enfant<QLabel>(d, "Picture1");
+    EXPECT_EQ(apercu->pixmap().toImage().convertToFormat(QImage::Format_RGB32),
+              ApercuNoeuds.Image().convertToFormat(QImage::Format_RGB32));
+    Enfant<QPushButton>(d, "Command3D3")->click();
+  });
+  Clique("menOptionsAffichageVilles");
+  EXPECT_EQ(AnnuleTrace, Faux);
+
+  // One box per mode of the loaded arcs.
+  QuandModal("TraceArcs", [](QWidget* d) {
+    int n = 0;
+    while (d->findChild<QCheckBox*>(QString("Option3DMode(%1)").arg(n + 1))) ++n;
+    EXPECT_EQ(n, NbModesPresents);
+    EXPECT_GT(n, 0);
+    Enfant<QPushButton>(d, "Command3D1")->click();
+  });
+  Clique("menTraceTrajets");
+  EXPECT_EQ(AnnuleTrace, Vrai);
+}
+
+// The same commands through the scenario runner and through the widgets give the same bitmap.
+TEST(IhmEtScenario, MemeImage) {
+  Application();
+  const std::filesystem::path dossier = std::filesystem::temp_directory_path() / "orva-tests-ihm";
+  std::filesystem::create_directories(dossier);
+  const std::string png = (dossier / "scenario.png").string();
+  std::istringstream scenario(
+      "menAngles\nAngles.Texte1 = 30\nAngles.Spin3 = 1\nAngles.Spin3 = 1\nAngles.Commande1\n"
+      "menZoomBarreOutils\nOrva.BarreDOutils(2)\nmenRedessine\nimage " + png + "\n");
+  std::ostringstream evenements;
+  ASSERT_EQ(ExecuteScenario(scenario, evenements, ORVA_SOURCE, dossier.string()), 0) << evenements.str();
+  QImage attendue(QString::fromStdString(png));
+  ASSERT_FALSE(attendue.isNull());
+
+  ReinitialiseTout();
+  PortQt port;
+  DefinitPort(&port);
+  FenetrePrincipale fenetre;
+  port.DefinitParent(&fenetre);
+  DialogueQt::ApresAction = [&fenetre] { fenetre.Synchronise(); };
+  CandidatsRacine = {ORVA_SOURCE};
+  ChargePresentation();
+  fenetre.show();
+  QuandModal("Angles", [](QWidget* d) {
+    Tape(Enfant<QLineEdit>(d, "Texte1"), "30");
+    Enfant<QToolButton>(d, "Spin3.Haut")->click();
+    Enfant<QToolButton>(d, "Spin3.Haut")->click();
+    Enfant<QPushButton>(d, "Commande1")->click();
+  });
+  fenetre.Action("menAngles")->trigger();
+  fenetre.Action("menZoomBarreOutils")->trigger();
+  fenetre.findChild<QAction*>("BarreDOutils2")->trigger();
+  fenetre.Action("menRedessine")->trigger();
+  const QImage obtenue = Ima.Image().convertToFormat(QImage::Format_RGB32);
+  EXPECT_GT(PixelsNonBlancs(obtenue), 0);
+  EXPECT_TRUE(obtenue == attendue.convertToFormat(QImage::Format_RGB32));
+  DialogueQt::ApresAction = nullptr;
+  DefinitPort(nullptr);
+  CandidatsRacine.clear();
+  std::filesystem::remove_all(dossier);
+}
+
+}  // namespace
+}  // namespace orva
