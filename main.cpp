@@ -30,7 +30,6 @@ int main(int argc, char** argv) {
   }
   if (avecScript) return orva::ExecuteScenario(script, racine);
 
-  Q_INIT_RESOURCE(orva);
   QApplication app(argc, argv);
   QApplication::setApplicationName("ORVA");
   QApplication::setDesktopFileName("orva");

@@ -4,9 +4,14 @@
 #include <QPainterPath>
 #include <QPixmap>
 
+// The resources of a static library are registered by hand, outside any namespace.
+static void InitialiseRessourcesOrva() { Q_INIT_RESOURCE(orva); }
+
 namespace orva {
 
 QIcon IconeOrva() {
+  static const bool initialisees = (InitialiseRessourcesOrva(), true);
+  (void)initialisees;
   QIcon i(":/icones/orva.png");
   if (!i.isNull()) return i;
   QPixmap p(64, 64);
