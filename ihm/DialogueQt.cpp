@@ -278,12 +278,15 @@ void DialogueQt::AjouteControle(const std::string& nom, Controle* c) {
   if (auto* s = dynamic_cast<Curseur*>(c)) {
     if (EstSpin(nom, *s)) {
       // Two arrows: up sets 1, down -1, and the spin's Change takes the step.
-      auto* boite = new QVBoxLayout;
+      auto* spin = new QWidget(this);
+      spin->setObjectName(on);
+      auto* boite = new QVBoxLayout(spin);
+      boite->setContentsMargins(0, 0, 0, 0);
       boite->setSpacing(0);
       QToolButton* fleches[2];
       for (int i = 0; i < 2; ++i) {
         const int sens = i == 0 ? 1 : -1;
-        auto* f = new QToolButton(this);
+        auto* f = new QToolButton(spin);
         f->setObjectName(on + (sens > 0 ? ".Haut" : ".Bas"));
         f->setArrowType(sens > 0 ? Qt::UpArrow : Qt::DownArrow);
         f->setAutoRepeat(true);
@@ -299,7 +302,7 @@ void DialogueQt::AjouteControle(const std::string& nom, Controle* c) {
         fleches[i] = f;
       }
       if (suite_) {
-        suite_->addLayout(boite);
+        suite_->addWidget(spin);
         // The arrow keys in the row's text box step it too.
         for (int i = suite_->count() - 1; i >= 0; --i)
           if (auto* champ = qobject_cast<QLineEdit*>(suite_->itemAt(i)->widget())) {
@@ -311,15 +314,13 @@ void DialogueQt::AjouteControle(const std::string& nom, Controle* c) {
       } else {
         auto* h = new QHBoxLayout;
         h->addWidget(new QLabel(Q(libelle), this));
-        h->addLayout(boite);
+        h->addWidget(spin);
         h->addStretch();
         grille_->addLayout(h, ligne_++, 0, 1, 2);
       }
-      synchros_.push_back([fleches0 = fleches[0], fleches1 = fleches[1], s] {
-        for (QToolButton* f : {fleches0, fleches1}) {
-          f->setEnabled(s->Enabled);
-          f->setVisible(s->Visible);
-        }
+      synchros_.push_back([spin, s] {
+        spin->setEnabled(s->Enabled);
+        spin->setVisible(s->Visible);
       });
       return;
     }

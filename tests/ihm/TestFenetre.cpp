@@ -23,6 +23,7 @@
 #include <array>
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <sstream>
 
 #include "ihm/DialogueQt.h"
@@ -42,16 +43,27 @@
 namespace orva {
 namespace {
 
+QApplication* ApplicationCreee = nullptr;
+
 QApplication* Application() {
   static int argc = 1;
   static char nom[] = "tests_ihm";
   static char* argv[] = {nom, nullptr};
-  static QApplication* app = [] {
+  if (!ApplicationCreee) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    return new QApplication(argc, argv);
-  }();
-  return app;
+    ApplicationCreee = new QApplication(argc, argv);
+  }
+  return ApplicationCreee;
 }
+
+// The application goes at the end of the run, and the fonts' caches with it.
+struct FinApplication : ::testing::Environment {
+  void TearDown() override {
+    delete ApplicationCreee;
+    ApplicationCreee = nullptr;
+  }
+};
+const auto* const kFinApplication = ::testing::AddGlobalTestEnvironment(new FinApplication);
 
 // Runs `f` on the modal widget named `nom` (a QMessageBox for "QMessageBox") once it is up.
 // After five seconds without it, whatever modal is up is rejected, so that a test fails instead
@@ -404,6 +416,31 @@ TEST_F(Ihm, AspectDesNoeudsApercuEtModesDeTraceArcs) {
   });
   Clique("menTraceTrajets");
   EXPECT_EQ(AnnuleTrace, Vrai);
+}
+
+// Every dialog of every subsystem gets its widgets from its state alone, with access keys that
+// do not clash.
+TEST_F(Ihm, TousLesDialoguesSeConstruisent) {
+  for (Dialogue* d : Dialogues()) {
+    if (d->Nom == "Orva") continue;
+    DialogueQt* q = DialogueDe(d->Nom, fenetre);
+    ASSERT_NE(q, nullptr) << d->Nom;
+    q->Synchronise();
+    EXPECT_EQ(q->windowTitle().toStdString(), d->Caption);
+    std::map<QChar, QString> touches;
+    for (QAbstractButton* b : q->findChildren<QAbstractButton*>()) {
+      const int i = b->text().indexOf('&');
+      if (i < 0 || i + 1 >= b->text().size()) continue;
+      const QChar k = b->text()[i + 1].toLower();
+      EXPECT_FALSE(touches.count(k)) << d->Nom << " : " << b->text().toStdString() << " et "
+                                     << touches[k].toStdString();
+      touches[k] = b->text();
+    }
+    for (auto& [nom, c] : d->Controles())
+      if (!dynamic_cast<EntreeMenu*>(c)) {
+        EXPECT_NE(q->findChild<QObject*>(QString::fromStdString(nom)), nullptr) << d->Nom << "." << nom;
+      }
+  }
 }
 
 // The same commands through the scenario runner and through the widgets give the same bitmap.
