@@ -9,7 +9,7 @@ export QT_QPA_PLATFORM=offscreen LC_ALL=C
 coeurs="$(nproc)"
 
 echo "== Construction et tests ==" >&2
-cmake -S . -B build-test -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
+cmake -S . -B build-test -DCMAKE_BUILD_TYPE=Release >/dev/null
 cmake --build build-test -j"$coeurs"
 (cd build-test && ctest --output-on-failure -j"$coeurs" --timeout 300)
 
