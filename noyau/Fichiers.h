@@ -18,7 +18,7 @@ std::string RepertoireCourant();
 void ChDir(const std::string& nom);
 // Creates a folder (error 75 when it exists or cannot be made).
 void MkDir(const std::string& nom);
-// The part of a path after its last "/".
+// What follows the last "/" of a path.
 std::string NomCourt(const std::string& chemin);
 // The folder of a path (no trailing "/").
 std::string DossierDe(const std::string& chemin);

@@ -165,26 +165,25 @@ void ContexteRaster::Polygon(const std::vector<PointI>& points) {
   d.p.drawPolygon(q, Qt::OddEvenFill);
 }
 
-// The box of two corners in either order; it leaves out its right and bottom edges, so an
-// empty box draws nothing.
-void ContexteRaster::Ellipse(int x1, int y1, int x2, int y2) {
+// The box of two corners in either order, with the pen and brush in force; it leaves out its
+// right and bottom edges, so an empty box draws nothing.
+template <class F>
+void ContexteRaster::DessineBoite(int x1, int y1, int x2, int y2, F&& dessine) {
   int g = std::min(x1, x2), d = std::max(x1, x2), h = std::min(y1, y2), b = std::max(y1, y2);
   if (d - g < 1 || b - h < 1) return;
   Peintre p(image_);
   if (!p.actif) return;
   p.p.setPen(StyloQt(Resous(stylo_, StyloNoir)));
   p.p.setBrush(BrosseQt(Resous(brosse_, BrosseBlanche)));
-  p.p.drawEllipse(QRect(g, h, d - g - 1, b - h - 1));
+  dessine(p.p, QRect(g, h, d - g - 1, b - h - 1));
+}
+
+void ContexteRaster::Ellipse(int x1, int y1, int x2, int y2) {
+  DessineBoite(x1, y1, x2, y2, [](QPainter& p, const QRect& r) { p.drawEllipse(r); });
 }
 
 void ContexteRaster::Rectangle(int x1, int y1, int x2, int y2) {
-  int g = std::min(x1, x2), d = std::max(x1, x2), h = std::min(y1, y2), b = std::max(y1, y2);
-  if (d - g < 1 || b - h < 1) return;
-  Peintre p(image_);
-  if (!p.actif) return;
-  p.p.setPen(StyloQt(Resous(stylo_, StyloNoir)));
-  p.p.setBrush(BrosseQt(Resous(brosse_, BrosseBlanche)));
-  p.p.drawRect(QRect(g, h, d - g - 1, b - h - 1));
+  DessineBoite(x1, y1, x2, y2, [](QPainter& p, const QRect& r) { p.drawRect(r); });
 }
 
 void ContexteRaster::TextOut(int x, int y, const std::string& texte) {

@@ -30,6 +30,8 @@ class ContexteRaster : public Contexte {
   void SetTextColor(Couleur c) { couleurTexte_ = [c] { return c; }; }
 
  private:
+  template <class F>
+  void DessineBoite(int x1, int y1, int x2, int y2, F&& dessine);
   QImage* image_;
   Objet stylo_, brosse_, police_, policeDefaut_;
   std::function<Couleur()> couleurTexte_;
