@@ -8,7 +8,10 @@ paquets=(
   qt6-base-dev qt6-base-dev-tools libgl-dev
   libgtest-dev libgmock-dev googletest libbenchmark-dev
   fonts-liberation2 locales
-  xvfb xauth libwmf-bin
+  xvfb xauth
+  # wmf2svg, which reads our metafiles back in the tests, and the fonts it cannot start without
+  # (libwmf only recommends them).
+  libwmf-bin fonts-urw-base35
 )
 
 manquants=()

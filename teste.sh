@@ -5,6 +5,7 @@ set -euo pipefail
 racine="$(cd "$(dirname "$0")" && pwd)"
 cd "$racine"
 bash ./dependances.sh
+bash ./outils/verifie-programmes.sh
 export QT_QPA_PLATFORM=offscreen LC_ALL=C
 coeurs="$(nproc)"
 
