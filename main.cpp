@@ -6,11 +6,11 @@
 #include <iostream>
 #include <string>
 
+#include "appli/Composition.h"
+#include "appli/Demarrage.h"
 #include "ihm/DialogueQt.h"
 #include "ihm/FenetrePrincipale.h"
 #include "ihm/PortQt.h"
-#include "noyau/Demarrage.h"
-#include "noyau/Registre.h"
 #include "scenario/Scenario.h"
 
 int main(int argc, char** argv) {

@@ -1,5 +1,7 @@
 #include "anamorphose/FrmAnamorphose.h"
 
+#include "graphe/Inscriptions.h"
+
 namespace orva {
 
 void EnregistreFrmAnamorphose() {
@@ -17,6 +19,7 @@ void EnregistreFrmAnamorphose() {
   d.Ajoute("cmdOK", d.cmdOK);
   d.Ajoute("cmdAnnuler", d.cmdAnnuler);
   Dialogues().push_back(&d);
+  InscritListeNoeuds(d.ListeModifiable1);
 }
 
 }  // namespace orva

@@ -1,5 +1,6 @@
 #include "edition/ModifArcs.h"
 
+#include "graphe/Inscriptions.h"
 
 namespace orva {
 
@@ -21,6 +22,10 @@ void EnregistreModifArcs() {
   d.Ajoute("Débit", d.Debit);
   d.Ajoute("Capacité", d.Capacite);
   Dialogues().push_back(&d);
+  InscritListeNoeuds(d.ListeModifiable1);
+  InscritListeNoeuds(d.ListeModifiable2);
+  InscritListeModes(d.ListeModifiable3);
+  InscritListeFichiersArcs(d, d.ListeFichArcs);
 }
 
 }  // namespace orva

@@ -6,7 +6,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "edition/ModifArcs.h"
+#include "graphe/Inscriptions.h"
 #include "graphe/Modes.h"
 #include "noyau/Chaines.h"
 #include "noyau/Conversions.h"
@@ -24,15 +24,25 @@ namespace {
 constexpr long kHauteurAvecListe = 4185;
 constexpr long kHauteurSansListe = 2595;
 
+// The height of the dialog that lists the merged arc files, when it is registered.
+void HauteurDialogueFichiers(long h) {
+  if (Inscrits.DialogueFichiersArcs) Inscrits.DialogueFichiersArcs->Height = h;
+}
+
+// A file read, with its count, joins the list of merged arc files.
+void AjouteFichierLu(const std::string& court, long n) {
+  if (Inscrits.ListeFichiersArcs) Inscrits.ListeFichiersArcs->AddItem(court + "  (" + CStr(n) + " arcs)");
+}
+
 // Start of both readers: the dialog's height, the list, the table; returns the first index.
 long PrepareLecture() {
   if (AjoutArcs) {
-    ModifArcs.Height = kHauteurAvecListe;
+    HauteurDialogueFichiers(kHauteurAvecListe);
     Arcs.ReDimPreserve(MaxArcs);
     return NbArcs + 1;
   }
-  ModifArcs.Height = kHauteurSansListe;
-  ModifArcs.ListeFichArcs.Clear();
+  HauteurDialogueFichiers(kHauteurSansListe);
+  if (Inscrits.ListeFichiersArcs) Inscrits.ListeFichiersArcs->Clear();
   Arcs.ReDim(0, MaxArcs);
   return 1;
 }
@@ -136,7 +146,7 @@ void ChargeArcsLong(std::istream& in, const std::string& nom) {
   NbArcs = static_cast<int32_t>(i - 1);
   Arcs.ReDimPreserve(NbArcs);
   n = n - 1;
-  ModifArcs.ListeFichArcs.AddItem(court + "  (" + CStr(n) + " arcs)");
+  AjouteFichierLu(court, n);
   const double somme = ConvertitTemps(true);
   RecenseModesPresents();
   if (EntreeMenu* m = Orva.Menu("menDéveloppmentHoraire")) m->Enabled = somme != 0;
@@ -167,7 +177,7 @@ void ChargeArcsCourt(std::istream& in, const std::string& nom) {
   NbArcs = static_cast<int32_t>(i);
   Arcs.ReDimPreserve(NbArcs);
   n = n - 1;
-  ModifArcs.ListeFichArcs.AddItem(court + "  (" + CStr(n) + " arcs)");
+  AjouteFichierLu(court, n);
   ConvertitTemps(false);
   if (VitesseMaximale == 0) VitesseMaximale = 100;
 }

@@ -6,11 +6,7 @@
 #include <optional>
 #include <utility>
 
-#include "anamorphose/FrmAnamorphose.h"
-#include "edition/ModifArcs.h"
-#include "edition/ModifNoeuds.h"
-#include "graphe/FichiersArcs.h"
-#include "graphe/Modes.h"
+#include "graphe/Inscriptions.h"
 #include "noyau/Chaines.h"
 #include "noyau/Conversions.h"
 #include "noyau/Def.h"
@@ -18,10 +14,6 @@
 #include "noyau/Fichiers.h"
 #include "noyau/Orva.h"
 #include "noyau/Plateforme.h"
-#include "vue/Angles.h"
-#include "vue/CoucheNoeuds.h"
-#include "vue/Projection.h"
-#include "vue/Surface.h"
 
 namespace orva {
 
@@ -128,26 +120,6 @@ std::string ChoisitFichier(const std::string& repertoire, const std::string& tit
   return *r;
 }
 
-void ChoisitNoeuds() {
-  std::string choix = ChoisitFichier(RepertoireNoeuds, "Fichier des noeuds...", FichierNoeuds);
-  RepertoireNoeuds = DossierDe(choix);
-  FichierNoeuds = choix;
-}
-
-void ChoisitArcs() {
-  std::string choix = ChoisitFichier(RepertoireArcs, "Fichier des arcs...", FichierArcs);
-  RepertoireArcs = DossierDe(choix);
-  FichierArcs = choix;
-}
-
-// The busy pointer for the length of a command, back to normal however it ends.
-struct Sablier {
-  Sablier() { Port().Sablier(true); }
-  ~Sablier() { Port().Sablier(false); }
-  Sablier(const Sablier&) = delete;
-  Sablier& operator=(const Sablier&) = delete;
-};
-
 }  // namespace
 
 void ChargeNoeudsLong(const std::string& nom) {
@@ -206,8 +178,7 @@ void ChargeNoeudsCourt(std::istream& in, const std::string& nom) {
 }
 
 void RempliListesNoeuds() {
-  Liste* listes[] = {&ModifArcs.ListeModifiable1, &ModifArcs.ListeModifiable2, &ModifNoeuds.ListeModifiable1,
-                     &Angles.ListeModifiable1, &frmAnamorphose.ListeModifiable1};
+  const std::vector<Liste*>& listes = Inscrits.ListesNoeuds;
   for (Liste* l : listes) {
     l->Clear();
     l->Lignes.reserve(static_cast<std::size_t>(std::max<int32_t>(NbNoeuds, 0)) + 1);
@@ -274,37 +245,16 @@ int Multiplicateur(const std::string& nom) {
   return 1000;
 }
 
-void menFichierVilles() { ChoisitNoeuds(); }
+void menFichierVilles() {
+  std::string choix = ChoisitFichier(RepertoireNoeuds, "Fichier des noeuds...", FichierNoeuds);
+  RepertoireNoeuds = DossierDe(choix);
+  FichierNoeuds = choix;
+}
 
-void menFichierOriginesDestinations() { ChoisitArcs(); }
-
-void menFichiersGraphe() {
-  ChoisitNoeuds();
-  ChoisitArcs();
-  Sablier sablier;
-  if (FormatLong) {
-    if (!ExisteFichier(FichierNoeuds)) return;
-    ChargeNoeudsLong(FichierNoeuds);
-    if (!ExisteFichier(FichierArcs)) return;
-    ChargeArcsLong(FichierArcs);
-  } else {
-    if (!ExisteFichier(FichierNoeuds)) return;
-    ChargeNoeudsCourt(FichierNoeuds);
-    if (!ExisteFichier(FichierArcs)) return;
-    ChargeArcsCourt(FichierArcs);
-  }
-  CalculeCoordonneesEcran();
-  ImplementeIndicesArcs();
-  DefinitOrientationArcs();
-  DefinitModesNoeuds();
-  TourneVue(Rotation, NoeudCentre);
-  InclineVue(Inclinaison);
-  TrieNoeudsProfondeur();
-  Ima.Cls();
-  ImaVec.Cls();
-  TraceLesNoeuds(true, true);
-  Ima.Refresh();
-  ImaVec.Refresh();
+void menFichierOriginesDestinations() {
+  std::string choix = ChoisitFichier(RepertoireArcs, "Fichier des arcs...", FichierArcs);
+  RepertoireArcs = DossierDe(choix);
+  FichierArcs = choix;
 }
 
 }  // namespace orva

@@ -15,8 +15,9 @@ void ChargeNoeudsCourt(const std::string& nom);
 void ChargeNoeudsLong(std::istream& in, const std::string& nom);
 void ChargeNoeudsCourt(std::istream& in, const std::string& nom);
 
-// Fills the five node name lists (ModifArcs origin and destination, ModifNoeuds, Angles,
-// frmAnamorphose): a blank row, then the first 15 characters of each Nom.
+// Fills the node name lists registered by the dialogs (InscritListeNoeuds: the origin and
+// destination of ModifArcs, ModifNoeuds, Angles, frmAnamorphose): a blank row, then the first 15
+// characters of each Nom.
 void RempliListesNoeuds();
 
 // Write Noeuds to `nom`, replacing it (reads Noeuds, NbNoeuds; the short writer also NomsCourts
@@ -31,12 +32,10 @@ void EcritNoeudsCourt(std::ostream& out);
 // "28.DAT", "28.dat"), 1000 for the others.
 int Multiplicateur(const std::string& nom);
 
-// Commands. The first two choose a file through the file dialog (RepertoireNoeuds/FichierNoeuds,
-// RepertoireArcs/FichierArcs) and load nothing; the third chooses both, loads them by FormatLong
-// and runs the projection, the index passes, the mode sets and the node layer. A cancelled
-// dialog raises the cancel error, which the command's handler absorbs.
+// Commands: choose a file through the file dialog (RepertoireNoeuds/FichierNoeuds,
+// RepertoireArcs/FichierArcs) and load nothing (menFichiersGraphe, in the view, loads both). A
+// cancelled dialog raises the cancel error, which the command's handler absorbs.
 void menFichierVilles();
 void menFichierOriginesDestinations();
-void menFichiersGraphe();
 
 }  // namespace orva

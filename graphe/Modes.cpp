@@ -1,10 +1,8 @@
 #include "graphe/Modes.h"
 
-#include "edition/ModifArcs.h"
-#include "graphe/Couleurs.h"
+#include "graphe/Inscriptions.h"
 #include "noyau/Chaines.h"
-#include "relief/OptionsRelief.h"
-#include "vue/TraceArcs.h"
+#include "noyau/Couleurs.h"
 
 namespace orva {
 
@@ -29,11 +27,6 @@ void Pose(Mode& m, const char* nom, int code, int vitesse, int fond, int epaisse
   m.Rang = static_cast<int16_t>(rang);
 }
 
-// The state before start-up: 23 empty records.
-void ReinitialiseModes() { ModesSysteme = {}; }
-
-[[maybe_unused]] const bool kEnregistre = (AjouteReinitialisation(ReinitialiseModes), true);
-
 // The families of the mode sets: position of the three characters in Noeud.Modes and the word.
 struct Famille {
   long position;
@@ -46,8 +39,6 @@ void MarqueFamille(long indice, const Famille& f) {
   RemplaceMid(s, f.position, 3, f.mot);
   Noeuds[indice].Modes = s;
 }
-
-bool Coche(const CaseACocher& c) { return c.Value == 1; }
 
 }  // namespace
 
@@ -83,9 +74,10 @@ void InitialiseModes() {
   TableModes.ReDim(1, NbModes);
   for (const Mode& mode : m) TableModes[mode.Rang] = mode;
 
-  Liste& l = ModifArcs.ListeModifiable3;
-  l.Clear();
-  for (long i = 1; i <= NbModes; ++i) l.AddItem(TableModes[i].Nom);
+  for (Liste* l : Inscrits.ListesModes) {
+    l->Clear();
+    for (long i = 1; i <= NbModes; ++i) l->AddItem(TableModes[i].Nom);
+  }
 }
 
 void ChercheModeParCode(int code, Mode& mode) {
@@ -154,8 +146,9 @@ int32_t CouleurModesNoeud(const std::string& modes) {
   // A set ending in "-BAT" behaves as the one ending in "-000".
   std::string s = modes;
   if (Right(s, 4) == "-BAT") s = Left(s, Len(s) - 4) + "-000";
-  const bool tgv = Coche(OptionsRelief.TGV), autoroute = Coche(OptionsRelief.Autoroute),
-             train = Coche(OptionsRelief.Train);
+  auto coche = [](const CaseACocher* c) { return c && Coche(*c); };
+  const bool tgv = coche(Inscrits.CaseTGV), autoroute = coche(Inscrits.CaseAutoroute),
+             train = coche(Inscrits.CaseTrain);
   int32_t c = 0;
   if (s == "TGV-000-ROU-000-000" || s == "TGV-FER-ROU-000-000") {
     if (tgv) c = commun("TGV");
@@ -177,12 +170,16 @@ int32_t CouleurModesNoeud(const std::string& modes) {
 }
 
 void RecenseModesPresents() {
+  std::deque<CaseACocher>* lignes = Inscrits.LignesModes;
+  Dialogue* dialogue = Inscrits.DialogueLignesModes;
   // 1. The rows of the former count go, 230 each.
-  for (long i = NbModesPresents; i >= 1; --i) {
-    if (TraceArcs.Option3DMode.size() > 1) TraceArcs.Option3DMode.pop_back();
-    TraceArcs.Height -= kHauteurLigneMode;
+  if (lignes && dialogue) {
+    for (long i = NbModesPresents; i >= 1; --i) {
+      if (lignes->size() > 1) lignes->pop_back();
+      dialogue->Height -= kHauteurLigneMode;
+    }
+    lignes->resize(1);
   }
-  TraceArcs.Option3DMode.resize(1);
   // 2.
   for (long i = 1; i <= NbModes; ++i) {
     TableModes[i].Present = Faux;
@@ -199,22 +196,29 @@ void RecenseModesPresents() {
     t.NbArcsMode += 1;
   }
   // 4. One ticked row per mode present, in TableModes order; the mode with the most arcs is
-  // preselected in the mode combo of ModifArcs, the first of equals winning.
+  // preselected in the mode combos, the first of equals winning.
   NbModesPresents = 0;
   int32_t meilleur = 0;
   for (long i = 1; i <= NbModes; ++i) {
     const Mode& t = TableModes[i];
     if (!t.Present) continue;
     NbModesPresents = static_cast<int16_t>(NbModesPresents + 1);
-    CaseACocher& c = TraceArcs.Option3DMode.emplace_back();
-    c.Caption = t.Nom;
-    c.Value = 1;
-    TraceArcs.Height += kHauteurLigneMode;
+    if (lignes && dialogue) {
+      CaseACocher& c = lignes->emplace_back();
+      c.Caption = t.Nom;
+      c.Value = 1;
+      dialogue->Height += kHauteurLigneMode;
+    }
     if (t.NbArcsMode > meilleur) {
       meilleur = t.NbArcsMode;
-      ModifArcs.ListeModifiable3.ListIndex = static_cast<int>(i - 1);
+      for (Liste* l : Inscrits.ListesModes) l->ListIndex = static_cast<int>(i - 1);
     }
   }
+}
+
+void EnregistreGraphe() {
+  Inscrits = ControlesInscrits{};
+  ModesSysteme = {};
 }
 
 }  // namespace orva

@@ -24,7 +24,7 @@
 #include "ihm/Icones.h"
 #include "ihm/PortQt.h"
 #include "noyau/Controles.h"
-#include "vue/Apercu.h"
+#include "dessin/Apercu.h"
 
 namespace orva {
 

@@ -14,7 +14,7 @@
 #include "ihm/PortQt.h"
 #include "noyau/Orva.h"
 #include "vue/Souris.h"
-#include "vue/Surface.h"
+#include "dessin/Surface.h"
 
 namespace orva {
 

@@ -6,8 +6,8 @@
 #include <QString>
 #include <fstream>
 
-#include "vue/Dessin.h"
-#include "vue/Surface.h"
+#include "dessin/Dessin.h"
+#include "dessin/Surface.h"
 
 namespace orva {
 

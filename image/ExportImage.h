@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "vue/ContexteMeta.h"
+#include "dessin/ContexteMeta.h"
 
 namespace orva {
 

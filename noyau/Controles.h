@@ -25,6 +25,9 @@ struct CaseACocher : Controle {
   int16_t Value = 0;
 };
 
+// A box is ticked when its Value is 1 (2, greyed, is not ticked).
+inline bool Coche(const CaseACocher& c) { return c.Value == 1; }
+
 // Option (radio) button: Value true for the chosen one of its group. Options of one dialog with
 // the same Groupe exclude one another; "" is the dialog's own group. The GUI draws a named group
 // in a frame of that caption.

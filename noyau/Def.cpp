@@ -1,21 +1,8 @@
 #include "noyau/Def.h"
 
-#include "noyau/Registre.h"
-
-#include <vector>
-
 namespace orva {
 
-namespace {
-std::vector<void (*)()>& Reinitialisations() {
-  static std::vector<void (*)()> v;
-  return v;
-}
-}  // namespace
-
-void AjouteReinitialisation(void (*f)()) { Reinitialisations().push_back(f); }
-
-void ReinitialiseTout() {
+void ReinitialiseNoyau() {
   Noeuds = {};
   NomsCourts = {};
   OrdreNoeuds = {};
@@ -54,8 +41,6 @@ void ReinitialiseTout() {
   FormatLong = Vrai;
   AjoutArcs = AnnuleTrace = EliminerDeconnectes = MetaFichierFerme = Faux;
   ValeursArcsChargees = HorairesOptimises = Faux;
-  for (auto f : Reinitialisations()) f();
-  EnregistreTout();
 }
 
 }  // namespace orva

@@ -136,10 +136,8 @@ inline Booleen MetaFichierFerme = Faux;
 inline Booleen ValeursArcsChargees = Faux;
 inline Booleen HorairesOptimises = Faux;
 
-// Puts every table and setting back to its state before start-up (for tests).
-void ReinitialiseTout();
-
-// Registers a routine that ReinitialiseTout runs, for the state that other subsystems hold.
-void AjouteReinitialisation(void (*f)());
+// Puts the tables and settings of this file back to their state before start-up. The state of
+// the whole program goes back with ReinitialiseTout (appli/Composition.h).
+void ReinitialiseNoyau();
 
 }  // namespace orva

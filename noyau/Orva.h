@@ -32,6 +32,8 @@ inline EtatPresentation Presentation;
 
 void EnregistreOrva();
 
+// Binds a menu entry to its command, run under the command's handler; the entry is then available.
+void LieMenu(const std::string& nom, void (*commande)());
 // Runs a menu entry by name as a click does; false when there is no such entry.
 bool ExecuteMenu(const std::string& nom);
 

@@ -62,6 +62,14 @@ class Plateforme {
 Plateforme& Port();
 void DefinitPort(Plateforme* p);
 
+// The busy pointer for the length of a command, back to normal however the command ends.
+struct PointeurOccupe {
+  PointeurOccupe() { Port().Sablier(true); }
+  ~PointeurOccupe() { Port().Sablier(false); }
+  PointeurOccupe(const PointeurOccupe&) = delete;
+  PointeurOccupe& operator=(const PointeurOccupe&) = delete;
+};
+
 // MsgBox with the platform's usual defaults.
 Reponse Message(const std::string& texte, Icone icone = Icone::Aucune, const std::string& titre = "ORVA",
                 Boutons boutons = Boutons::OK, int defaut = 1);

@@ -1,18 +1,7 @@
 #include "noyau/Registre.h"
 
-#include "anamorphose/FrmAnamorphose.h"
-#include "edition/ModifArcs.h"
-#include "edition/ModifNoeuds.h"
 #include "noyau/Controles.h"
 #include "noyau/Def.h"
-#include "noyau/Orva.h"
-#include "relief/OptionsRelief.h"
-#include "vue/Angles.h"
-#include "vue/Projection.h"
-#include "vue/Enregistrement.h"
-#include "vue/ParamAffichage.h"
-#include "vue/Souris.h"
-#include "vue/TraceArcs.h"
 
 namespace orva {
 
@@ -42,9 +31,15 @@ Dialogue* ChercheDialogue(const std::string& nom) {
   return nullptr;
 }
 
-namespace {
+std::map<std::string, std::function<void()>>& Routines() {
+  static std::map<std::string, std::function<void()>> m;
+  return m;
+}
 
-void EnregistreReglagesReseau() {
+void EnregistreNoyau() {
+  Reglages().clear();
+  Tables().clear();
+  Dialogues().clear();
 #define R(x) EnregistreReglage(#x, x)
   R(NbNoeuds); R(NbArcs); R(NbModes); R(NbModesPresents);
   R(VitesseMaximale); R(EchelleVue); R(DecalageX); R(DecalageY); R(Inclinaison); R(InclinaisonDegres);
@@ -59,7 +54,7 @@ void EnregistreReglagesReseau() {
   R(FichierNoeuds); R(FichierArcs); R(FichierComparaison); R(FichierArcVal1); R(FichierArcVal2);
   R(FichierNoeudVal1); R(FichierNoeudVal2); R(FichierRapport);
   R(FormatLong); R(SeparateurDecimal); R(AjoutArcs); R(AnnuleTrace); R(EliminerDeconnectes);
-  R(MetaFichierFerme); R(OptionsReliefAnnule); R(InclinaisonDonnees); R(PointeurIma);
+  R(MetaFichierFerme);
 #undef R
   for (int i = 0; i < 3; ++i)
     EnregistreReglage("DirectionLumiere(" + std::to_string(i) + ")", DirectionLumiere[static_cast<std::size_t>(i)]);
@@ -122,27 +117,6 @@ void EnregistreReglagesReseau() {
 
   EnregistreTableValeurs("OrdreNoeuds", OrdreNoeuds);
   EnregistreTableValeurs("NomsCourts", NomsCourts);
-}
-
-}  // namespace
-
-void EnregistreTout() {
-  Reglages().clear();
-  Tables().clear();
-  Dialogues().clear();
-  EnregistreReglagesReseau();
-  EnregistreOrva();
-  EnregistreModifArcs();
-  EnregistreModifNoeuds();
-  EnregistreAngles();
-  EnregistreFrmAnamorphose();
-  EnregistreTraceArcs();
-  EnregistreOptionsRelief();
-  EnregistreParamAffichage();
-  EnregistreSouris();
-  EnregistreDessin();
-  EnregistreVueNoeuds();
-  EnregistreVueArcs();
 }
 
 }  // namespace orva

@@ -82,7 +82,11 @@ void EnregistreTableValeurs(const std::string& nom, Tableau<T>& t) {
   };
 }
 
-// Registers every setting, table and dialog of every subsystem, once.
-void EnregistreTout();
+// Public operations that no menu or button reaches, by name: a scenario line that names one runs
+// it (the composition fills the table).
+std::map<std::string, std::function<void()>>& Routines();
+
+// Empties the tables of names, then registers the settings and tables of the network store.
+void EnregistreNoyau();
 
 }  // namespace orva

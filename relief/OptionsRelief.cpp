@@ -1,5 +1,8 @@
 #include "relief/OptionsRelief.h"
 
+#include "graphe/Inscriptions.h"
+#include "noyau/Registre.h"
+
 namespace orva {
 
 void EnregistreOptionsRelief() {
@@ -30,7 +33,9 @@ void EnregistreOptionsRelief() {
   d.Ajoute("Command3D1", d.Command3D1);
   d.Ajoute("Command3D2", d.Command3D2);
   OptionsReliefAnnule = Faux;
+  EnregistreReglage("OptionsReliefAnnule", OptionsReliefAnnule);
   Dialogues().push_back(&d);
+  InscritCasesFamilles(d.TGV, d.Autoroute, d.Train);
 }
 
 }  // namespace orva

@@ -2,8 +2,9 @@
 
 #include <istream>
 
+#include "appli/Composition.h"
+#include "appli/Demarrage.h"
 #include "noyau/Def.h"
-#include "noyau/Demarrage.h"
 #include "noyau/Erreurs.h"
 #include "noyau/Fichiers.h"
 #include "scenario/Actions.h"

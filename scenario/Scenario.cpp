@@ -4,34 +4,12 @@
 #include <fstream>
 #include <iostream>
 
-#include "graphe/FichiersArcs.h"
-#include "graphe/FichiersNoeuds.h"
-#include "graphe/Modes.h"
 #include "image/ExportImage.h"
-#include "noyau/Demarrage.h"
 #include "noyau/Fichiers.h"
 #include "scenario/Executeur.h"
-#include "vue/Projection.h"
 #include "vue/Souris.h"
 
 namespace orva {
-
-std::map<std::string, std::function<void()>>& Routines() {
-  static std::map<std::string, std::function<void()>> m;
-  return m;
-}
-
-void EnregistreRoutines() {
-  auto& r = Routines();
-  r.emplace("ImplementeIndicesArcs", [] { ImplementeIndicesArcs(); });
-  r.emplace("DefinitOrientationArcs", [] { DefinitOrientationArcs(); });
-  r.emplace("DefinitModesNoeuds", [] { DefinitModesNoeuds(); });
-  r.emplace("RecenseModesPresents", [] { RecenseModesPresents(); });
-  r.emplace("CalculeCoordonneesEcran", [] { CalculeCoordonneesEcran(); });
-  r.emplace("TrieNoeudsProfondeur", [] { TrieNoeudsProfondeur(); });
-  r.emplace("RempliListesNoeuds", [] { RempliListesNoeuds(); });
-  r.emplace("InitialiseOrva", [] { InitialiseOrva(); });
-}
 
 void InstalleCrochetsParDefaut() {
   if (!CrochetSourisEnfoncee) CrochetSourisEnfoncee = ImaMouseDown;

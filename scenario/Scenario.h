@@ -15,11 +15,6 @@ int ExecuteScenario(const std::string& fichier, const std::string& racine);
 int ExecuteScenario(std::istream& scenario, std::ostream& sortie, const std::string& racine,
                     const std::string& dossierDepart);
 
-// Public operations that no menu or button reaches, run by a scenario line that names them.
-std::map<std::string, std::function<void()>>& Routines();
-// Registers the routines of the subsystems that exist; leaves entries already there.
-void EnregistreRoutines();
-
 // Hooks through which the scenario reaches the picture Ima; the view fills them.
 // `image FICHIER`: writes the present bitmap of Ima (format from the extension); false on failure.
 inline std::function<bool(const std::string& fichier)> CrochetImage;

@@ -1,12 +1,14 @@
 #include "vue/Angles.h"
 
+#include "graphe/Inscriptions.h"
 #include "noyau/Conversions.h"
 #include "noyau/Def.h"
 #include "noyau/Orva.h"
 #include "noyau/Plateforme.h"
+#include "noyau/Registre.h"
 #include "vue/CoucheNoeuds.h"
 #include "vue/Projection.h"
-#include "vue/Surface.h"
+#include "dessin/Surface.h"
 
 namespace orva {
 
@@ -65,11 +67,9 @@ void EnregistreAngles() {
   d.Ajoute("Commande1", d.Commande1);
   d.Ajoute("Commande2", d.Commande2);
   Dialogues().push_back(&d);
-  if (EntreeMenu* m = Orva.Menu("menAngles")) {
-    m->Disponible = true;
-    m->Click = [] { ExecuteCommande("menAngles", menAngles); };
-  }
+  InscritListeNoeuds(d.ListeModifiable1);
   InclinaisonDonnees = 0;
+  EnregistreReglage("InclinaisonDonnees", InclinaisonDonnees);
 }
 
 void menAngles() {

@@ -6,7 +6,7 @@
 #include "noyau/Plateforme.h"
 #include "noyau/Registre.h"
 #include "vue/CoucheArcs.h"
-#include "vue/Couleurs.h"
+#include "noyau/Couleurs.h"
 
 namespace orva {
 

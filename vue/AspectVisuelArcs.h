@@ -5,8 +5,8 @@
 #include <cstdint>
 
 #include "noyau/Controles.h"
-#include "vue/Apercu.h"
-#include "vue/Surface.h"
+#include "dessin/Apercu.h"
+#include "dessin/Surface.h"
 
 namespace orva {
 

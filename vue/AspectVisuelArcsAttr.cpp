@@ -4,7 +4,7 @@
 #include "noyau/Plateforme.h"
 #include "noyau/Registre.h"
 #include "vue/AspectVisuelArcs.h"
-#include "vue/Couleurs.h"
+#include "noyau/Couleurs.h"
 
 namespace orva {
 

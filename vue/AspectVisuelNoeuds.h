@@ -3,8 +3,8 @@
 // while it draws.
 #pragma once
 #include "noyau/Controles.h"
-#include "vue/Apercu.h"
-#include "vue/Surface.h"
+#include "dessin/Apercu.h"
+#include "dessin/Surface.h"
 
 namespace orva {
 

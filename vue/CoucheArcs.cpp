@@ -14,14 +14,13 @@
 #include "noyau/Plateforme.h"
 #include "noyau/Progression.h"
 #include "noyau/Registre.h"
-#include "relief/Valuation.h"
 #include "vue/AspectVisuelArcs.h"
 #include "vue/AspectVisuelArcsAttr.h"
-#include "vue/Dessin.h"
+#include "dessin/Dessin.h"
 #include "vue/Enregistrement.h"
 #include "vue/OptionsRedess.h"
 #include "vue/Redessine.h"
-#include "vue/Surface.h"
+#include "dessin/Surface.h"
 #include "vue/TraceArcs.h"
 
 namespace orva {
@@ -33,15 +32,11 @@ constexpr long kTailleComparaison = 100000;
 // The recording is closed and reopened once this many arcs coloured by nodes are drawn.
 constexpr int16_t kArcsParVidage = 70;
 
-// The hourglass for the length of a command, back to the arrow whatever happens.
-struct Sablier {
-  Sablier() { Port().Sablier(true); }
-  ~Sablier() { Port().Sablier(false); }
-  Sablier(const Sablier&) = delete;
-  Sablier& operator=(const Sablier&) = delete;
-};
-
-bool Coche(const CaseACocher& c) { return c.Value == 1; }
+// The lift of arc i's middle by the registered valuation (0 without one).
+double Hauteur(const Arc& a, double x1, double y1, double x2, double y2, long i) {
+  if (!ValuationDesArcs) return 0;
+  return ValuationDesArcs(a.Temps, a.Longueur, a.Mode, x1, y1, x2, y2, i, a.IndiceOrigine, a.IndiceDestination);
+}
 
 bool MenuCoche(const char* nom) {
   EntreeMenu* m = Orva.Menu(nom);
@@ -125,7 +120,7 @@ void TraceArcsDuMode(int, const Mode& R) {
     const Noeud& d = Noeuds[a.IndiceDestination];
     if ((o.Actif & d.Actif) == 0) continue;
     const double x1 = o.XEcran, y1 = o.YEcran, x2 = d.XEcran, y2 = d.YEcran;
-    const double z = HauteurArc(a.Temps, a.Longueur, a.Mode, x1, y1, x2, y2, i, a.IndiceOrigine, a.IndiceDestination);
+    const double z = Hauteur(a, x1, y1, x2, y2, i);
     const double xm = (x1 + x2) / 2, ym = (y1 + y2) / 2 - z;
     // The background width is set and replaced before any stroke: only the preview of the
     // aspect dialog shows it.
@@ -234,7 +229,7 @@ void TraceArcCouleurNoeuds(long i) {
     if (a == 0 || b == 0) {
       // nothing drawn
     } else if (saut == 0) {
-      const double z = HauteurArc(arc.Temps, arc.Longueur, arc.Mode, x1, y1, x2, y2, i, io, id);
+      const double z = Hauteur(arc, x1, y1, x2, y2, i);
       Trait(x1, y1, mx, my - z, Classes[a].Couleur);
       Trait(x2, y2, mx, my - z, Classes[a].Couleur);
     } else if (saut == 1) {
@@ -330,7 +325,7 @@ void menTraceTrajets() {
   d.Visible = true;
   Port().MontreDialogue("TraceArcs", true);
   if (AnnuleTrace) return;
-  Sablier sablier;
+  PointeurOccupe occupe;
   if (Coche(d.TousModesRoute)) TraceModesRoute();
   if (Coche(d.TousModesUrbains)) TraceModesUrbains();
   if (d.CollectifsUrbains.Value) {
@@ -357,6 +352,7 @@ void EnregistreVueArcs() {
   ComparaisonArcs.ReDim(0, kTailleComparaison - 1);
   ModeTrace = ModeCourant = ModeArc = Mode{};
   EpaisseurArcsDXF = 0;
+  ValuationDesArcs = nullptr;
   Classes.ReDim(1, 1);
   NbClasses = 1;
   NoeudVals = {};
@@ -377,21 +373,6 @@ void EnregistreVueArcs() {
   EnregistreAspectVisuelArcs();
   EnregistreAspectVisuelArcsAttr();
   EnregistreOptionsRedess();
-
-  struct {
-    const char* nom;
-    void (*f)();
-  } menus[] = {{"menTraceTrajets", menTraceTrajets},       {"menCouleursNoeuds", menCouleursNoeuds},
-               {"menArcsTrajets", menArcsTrajets},         {"menArcsAttractions", menArcsAttractions},
-               {"menRedessine", menRedessine},             {"menOptionsRedessine", menOptionsRedessine}};
-  for (auto& e : menus) {
-    EntreeMenu* m = Orva.Menu(e.nom);
-    if (!m) continue;
-    std::string nom = e.nom;
-    void (*f)() = e.f;
-    m->Disponible = true;
-    m->Click = [nom, f] { ExecuteCommande(nom, f); };
-  }
 }
 
 }  // namespace orva

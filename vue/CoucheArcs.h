@@ -41,6 +41,13 @@ struct NoeudVal {
 };
 inline Tableau<NoeudVal> NoeudVals;
 
+// The lift of an arc's middle above the plane of the view, with the arguments of the relief's
+// HauteurArc (time, length, mode, projected ends, arc and node indices). The relief registers its
+// valuation here; until then every arc is flat.
+using FonctionHauteurArc = double (*)(double temps, double longueur, int mode, double x1, double y1, double x2,
+                                      double y2, long arc, long indiceOrigine, long indiceDestination);
+inline FonctionHauteurArc ValuationDesArcs = nullptr;
+
 // The recording of arcs coloured by nodes into a DXF file: empty until the DXF output connects
 // them. Counters cleared before a drawing; one arc (its two node indices); the closing step
 // after a mode.

@@ -10,10 +10,10 @@
 #include "noyau/Plateforme.h"
 #include "noyau/Registre.h"
 #include "vue/AspectVisuelNoeuds.h"
-#include "vue/Dessin.h"
+#include "dessin/Dessin.h"
 #include "vue/Enregistrement.h"
 #include "vue/SeuilsAffichage.h"
-#include "vue/Surface.h"
+#include "dessin/Surface.h"
 
 namespace orva {
 
@@ -52,14 +52,6 @@ void TraceNoeud(long k, double r, bool avecNoms, bool modes, bool minuscules) {
   if (minuscules) texte = MinusculeNom(texte);
   Ima.hDC()->TextOut(static_cast<int>(x), static_cast<int>(y - 13), texte);
   if (ImageVectorielle()) EcritTexteMeta(texte, x, y - 13);
-}
-
-void Connecte(const char* nom, void (*f)()) {
-  EntreeMenu* m = Orva.Menu(nom);
-  if (!m) return;
-  std::string n = nom;
-  m->Disponible = true;
-  m->Click = [n, f] { ExecuteCommande(n, f); };
 }
 
 }  // namespace
@@ -107,10 +99,6 @@ void EnregistreVueNoeuds() {
   EnregistreReglage("CouleurNoms", CouleurNoms);
   EnregistreAspectVisuelNoeuds();
   EnregistreSeuilsAffichage();
-  Connecte("menAfficheVilles", menAfficheVilles);
-  Connecte("menAfficheNomsVilles", menAfficheNomsVilles);
-  Connecte("menOptionsAffichageVilles", menOptionsAffichageVilles);
-  Connecte("menOptionsAffichageNoms", menOptionsAffichageNoms);
 }
 
 }  // namespace orva

@@ -6,7 +6,7 @@
 #include "noyau/Plateforme.h"
 #include "vue/CoucheNoeuds.h"
 #include "vue/Projection.h"
-#include "vue/Surface.h"
+#include "dessin/Surface.h"
 
 namespace orva {
 
@@ -56,10 +56,6 @@ void EnregistreParamAffichage() {
   d.Ajoute("Command3D1", d.Command3D1);
   d.Ajoute("Command3D2", d.Command3D2);
   Dialogues().push_back(&d);
-  if (EntreeMenu* m = Orva.Menu("menParamAffichage")) {
-    m->Disponible = true;
-    m->Click = [] { ExecuteCommande("menParamAffichage", menParamAffichage); };
-  }
 }
 
 void ChoisitEspace() {

@@ -6,7 +6,7 @@
 #include "noyau/Chaines.h"
 #include "noyau/Def.h"
 #include "vue/CoucheNoeuds.h"
-#include "vue/Surface.h"
+#include "dessin/Surface.h"
 
 namespace orva {
 

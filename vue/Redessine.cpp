@@ -5,16 +5,14 @@
 #include "noyau/Plateforme.h"
 #include "vue/CoucheArcs.h"
 #include "vue/CoucheNoeuds.h"
-#include "vue/Dessin.h"
+#include "dessin/Dessin.h"
 #include "vue/OptionsRedess.h"
-#include "vue/Surface.h"
+#include "dessin/Surface.h"
 #include "vue/TraceArcs.h"
 
 namespace orva {
 
 namespace {
-
-bool Coche(const CaseACocher& c) { return c.Value == 1; }
 
 void TraceModes(std::initializer_list<const char*> noms) {
   for (const char* nom : noms) {
@@ -22,13 +20,6 @@ void TraceModes(std::initializer_list<const char*> noms) {
     TraceArcsDuMode(ModeCourant.Code, ModeCourant);
   }
 }
-
-struct Sablier {
-  Sablier() { Port().Sablier(true); }
-  ~Sablier() { Port().Sablier(false); }
-  Sablier(const Sablier&) = delete;
-  Sablier& operator=(const Sablier&) = delete;
-};
 
 }  // namespace
 
@@ -58,7 +49,7 @@ void Redessine() {
 
 void menRedessine() {
   Ima.AutoRedraw = true;
-  Sablier sablier;
+  PointeurOccupe occupe;
   Redessine();
   if (Coche(TraceArcs.DXFCouleurNoeuds)) TermineArcsDXF();
 }

@@ -4,7 +4,7 @@
 #include "noyau/Def.h"
 #include "noyau/Plateforme.h"
 #include "vue/CoucheNoeuds.h"
-#include "vue/Surface.h"
+#include "dessin/Surface.h"
 
 namespace orva {
 

@@ -6,9 +6,10 @@
 #include "noyau/Def.h"
 #include "noyau/Orva.h"
 #include "noyau/Plateforme.h"
+#include "noyau/Registre.h"
 #include "vue/CoucheNoeuds.h"
 #include "vue/Projection.h"
-#include "vue/Surface.h"
+#include "dessin/Surface.h"
 
 namespace orva {
 
@@ -76,17 +77,7 @@ void EnregistreSouris() {
     b.Caption = bulles[n];
     b.Click = [n] { ExecuteCommande("BarreDOutils", [n] { BarreDOutilsClic(n); }); };
   }
-  struct {
-    const char* nom;
-    void (*f)();
-  } menus[] = {{"menZoomSouris", menZoomSouris}, {"menZoomBarreOutils", menZoomBarreOutils}};
-  for (auto& e : menus) {
-    EntreeMenu* m = Orva.Menu(e.nom);
-    m->Disponible = true;
-    std::string nom = e.nom;
-    void (*f)() = e.f;
-    m->Click = [nom, f] { ExecuteCommande(nom, f); };
-  }
+  EnregistreReglage("PointeurIma", PointeurIma);
 }
 
 }  // namespace orva

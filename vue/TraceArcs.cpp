@@ -1,5 +1,6 @@
 #include "vue/TraceArcs.h"
 
+#include "graphe/Inscriptions.h"
 #include "noyau/Conversions.h"
 #include "noyau/Def.h"
 #include "noyau/Orva.h"
@@ -70,6 +71,7 @@ void EnregistreTraceArcs() {
     return &TraceArcs.Option3DMode[static_cast<std::size_t>(i)];
   });
   Dialogues().push_back(&d);
+  InscritLignesModes(d, d.Option3DMode);
 }
 
 void ChoisitOptionTraceArcs(BoutonOption& o) {

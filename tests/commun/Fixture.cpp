@@ -5,6 +5,7 @@
 #include <random>
 #include <sstream>
 
+#include "appli/Composition.h"
 #include "noyau/Def.h"
 
 namespace orva {

@@ -11,6 +11,7 @@
 #include "noyau/Orva.h"
 #include "noyau/Plateforme.h"
 #include "tests/graphe/CommunGraphe.h"
+#include "vue/ChargeGraphe.h"
 
 namespace orva {
 namespace {

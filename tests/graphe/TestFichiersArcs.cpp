@@ -17,6 +17,7 @@
 #include "noyau/Orva.h"
 #include "noyau/Plateforme.h"
 #include "tests/graphe/CommunGraphe.h"
+#include "vue/ChargeGraphe.h"
 #include "vue/TraceArcs.h"
 
 namespace orva {

@@ -4,9 +4,10 @@
 #include <initializer_list>
 #include <tuple>
 
+#include "appli/Composition.h"
 #include "commun/Fixture.h"
 #include "edition/ModifArcs.h"
-#include "graphe/Couleurs.h"
+#include "noyau/Couleurs.h"
 #include "graphe/Modes.h"
 #include "noyau/Def.h"
 #include "relief/OptionsRelief.h"

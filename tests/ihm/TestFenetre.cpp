@@ -26,11 +26,12 @@
 #include <map>
 #include <sstream>
 
+#include "appli/Composition.h"
 #include "ihm/DialogueQt.h"
 #include "ihm/FenetrePrincipale.h"
 #include "ihm/PortQt.h"
 #include "noyau/Def.h"
-#include "noyau/Demarrage.h"
+#include "appli/Demarrage.h"
 #include "noyau/Orva.h"
 #include "scenario/Scenario.h"
 #include "vue/Angles.h"
@@ -38,7 +39,7 @@
 #include "vue/OptionsRedess.h"
 #include "vue/Projection.h"
 #include "vue/Souris.h"
-#include "vue/Surface.h"
+#include "dessin/Surface.h"
 
 namespace orva {
 namespace {

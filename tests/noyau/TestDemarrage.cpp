@@ -5,7 +5,7 @@
 
 #include "commun/Fixture.h"
 #include "noyau/Def.h"
-#include "noyau/Demarrage.h"
+#include "appli/Demarrage.h"
 #include "noyau/Fichiers.h"
 #include "noyau/Orva.h"
 

@@ -10,6 +10,7 @@
 #include "noyau/Erreurs.h"
 #include "noyau/Fichiers.h"
 #include "noyau/Orva.h"
+#include "noyau/Registre.h"
 #include "scenario/Executeur.h"
 #include "scenario/Scenario.h"
 

@@ -9,9 +9,9 @@
 #include "noyau/Orva.h"
 #include "vue/AspectVisuelArcs.h"
 #include "vue/AspectVisuelArcsAttr.h"
-#include "vue/ContexteJournal.h"
+#include "dessin/ContexteJournal.h"
 #include "vue/CoucheArcs.h"
-#include "vue/Couleurs.h"
+#include "noyau/Couleurs.h"
 
 namespace orva {
 namespace {

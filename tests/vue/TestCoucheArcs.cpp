@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "appli/Composition.h"
 #include "commun/Fixture.h"
 #include "graphe/Modes.h"
 #include "noyau/Conversions.h"
@@ -17,10 +18,10 @@
 #include "noyau/Erreurs.h"
 #include "noyau/Orva.h"
 #include "vue/AspectVisuelArcs.h"
-#include "vue/ContexteJournal.h"
+#include "dessin/ContexteJournal.h"
 #include "vue/CoucheArcs.h"
-#include "vue/Dessin.h"
-#include "vue/Surface.h"
+#include "dessin/Dessin.h"
+#include "dessin/Surface.h"
 #include "vue/TraceArcs.h"
 
 namespace orva {

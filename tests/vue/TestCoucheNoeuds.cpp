@@ -11,11 +11,11 @@
 #include "noyau/Orva.h"
 #include "relief/OptionsRelief.h"
 #include "vue/AspectVisuelNoeuds.h"
-#include "vue/ContexteJournal.h"
+#include "dessin/ContexteJournal.h"
 #include "vue/CoucheNoeuds.h"
-#include "vue/Dessin.h"
+#include "dessin/Dessin.h"
 #include "vue/SeuilsAffichage.h"
-#include "vue/Surface.h"
+#include "dessin/Surface.h"
 
 namespace orva {
 namespace {

@@ -11,7 +11,7 @@
 #include "vue/ParamAffichage.h"
 #include "vue/Projection.h"
 #include "vue/Souris.h"
-#include "vue/Surface.h"
+#include "dessin/Surface.h"
 
 namespace orva {
 namespace {

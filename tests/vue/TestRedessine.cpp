@@ -8,12 +8,12 @@
 #include "graphe/Modes.h"
 #include "noyau/Def.h"
 #include "noyau/Orva.h"
-#include "vue/ContexteJournal.h"
+#include "dessin/ContexteJournal.h"
 #include "vue/CoucheArcs.h"
-#include "vue/Dessin.h"
+#include "dessin/Dessin.h"
 #include "vue/OptionsRedess.h"
 #include "vue/Redessine.h"
-#include "vue/Surface.h"
+#include "dessin/Surface.h"
 #include "vue/TraceArcs.h"
 
 namespace orva {

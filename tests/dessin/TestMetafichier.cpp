@@ -9,10 +9,10 @@
 
 #include "commun/Fixture.h"
 #include "image/ExportImage.h"
-#include "vue/ContexteJournal.h"
-#include "vue/ContexteMeta.h"
-#include "vue/ContexteRaster.h"
-#include "vue/Dessin.h"
+#include "dessin/ContexteJournal.h"
+#include "dessin/ContexteMeta.h"
+#include "dessin/ContexteRaster.h"
+#include "dessin/Dessin.h"
 
 namespace orva {
 namespace {

@@ -9,10 +9,10 @@
 #include <string>
 
 #include "noyau/Def.h"
-#include "vue/Contexte.h"
-#include "vue/ContexteMeta.h"
-#include "vue/Couleurs.h"
-#include "vue/Surface.h"
+#include "dessin/Contexte.h"
+#include "dessin/ContexteMeta.h"
+#include "noyau/Couleurs.h"
+#include "dessin/Surface.h"
 
 namespace orva {
 
@@ -76,5 +76,8 @@ void EffaceImages();
 // images.
 void menImageVectorielle();
 void menEffaceImage();
+
+// The state before start-up of the surfaces and the metafile, and their settings by name.
+void EnregistreDessin();
 
 }  // namespace orva

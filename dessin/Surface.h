@@ -12,7 +12,7 @@
 #include <memory>
 #include <string>
 
-#include "vue/Contexte.h"
+#include "dessin/Contexte.h"
 
 namespace orva {
 

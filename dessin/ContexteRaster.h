@@ -4,7 +4,7 @@
 #include <QImage>
 #include <functional>
 
-#include "vue/Contexte.h"
+#include "dessin/Contexte.h"
 
 namespace orva {
 

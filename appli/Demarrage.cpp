@@ -1,7 +1,9 @@
-#include "noyau/Demarrage.h"
+#include "appli/Demarrage.h"
 
 #include <cstdlib>
 
+#include "dessin/Surface.h"
+#include "edition/ModifArcs.h"
 #include "graphe/FichiersArcs.h"
 #include "graphe/FichiersNoeuds.h"
 #include "graphe/Modes.h"
@@ -11,10 +13,8 @@
 #include "noyau/Orva.h"
 #include "noyau/Plateforme.h"
 #include "noyau/Progression.h"
-#include "edition/ModifArcs.h"
 #include "vue/CoucheNoeuds.h"
 #include "vue/Projection.h"
-#include "vue/Surface.h"
 
 namespace orva {
 

@@ -6,9 +6,9 @@
 #include "noyau/Erreurs.h"
 #include "noyau/Orva.h"
 #include "noyau/Registre.h"
-#include "vue/ContexteJournal.h"
-#include "vue/ContexteRaster.h"
-#include "vue/Dessin.h"
+#include "dessin/ContexteJournal.h"
+#include "dessin/ContexteRaster.h"
+#include "dessin/Dessin.h"
 
 namespace orva {
 namespace {

@@ -1,4 +1,4 @@
-#include "vue/Surface.h"
+#include "dessin/Surface.h"
 
 #include <QPainter>
 #include <algorithm>
@@ -6,7 +6,7 @@
 #include <optional>
 
 #include "noyau/Plateforme.h"
-#include "vue/ContexteRaster.h"
+#include "dessin/ContexteRaster.h"
 
 namespace orva {
 

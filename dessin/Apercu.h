@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "noyau/Controles.h"
-#include "vue/Surface.h"
+#include "dessin/Surface.h"
 
 namespace orva {
 

@@ -1,4 +1,4 @@
-#include "vue/ContexteRaster.h"
+#include "dessin/ContexteRaster.h"
 
 #include <QFont>
 #include <QFontMetrics>

@@ -1,4 +1,4 @@
-#include "vue/Contexte.h"
+#include "dessin/Contexte.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -1,4 +1,4 @@
-#include "vue/Dessin.h"
+#include "dessin/Dessin.h"
 
 #include <vector>
 
@@ -6,7 +6,6 @@
 #include "noyau/Orva.h"
 #include "noyau/Plateforme.h"
 #include "noyau/Registre.h"
-#include "vue/Enregistrement.h"
 
 namespace orva {
 
@@ -190,14 +189,6 @@ void EnregistreSurface(const std::string& nom, SurfaceImage& s) {
   EnregistreReglage(nom + ".FontName", s.Font.Nom);
 }
 
-void Connecte(const char* nom, void (*f)()) {
-  EntreeMenu* m = Orva.Menu(nom);
-  if (!m) return;
-  std::string n = nom;
-  m->Click = [n, f] { ExecuteCommande(n, f); };
-  m->Disponible = true;
-}
-
 }  // namespace
 
 void EnregistreDessin() {
@@ -221,9 +212,6 @@ void EnregistreDessin() {
                     Reglage{[] { return EnTexte(static_cast<long>(GetMetaFileBits(MetaFichier).size())); }, {}});
   EnregistreSurface("Ima", Ima);
   EnregistreSurface("ImaVec", ImaVec);
-
-  Connecte("menImageVectorielle", menImageVectorielle);
-  Connecte("menEffaceImage", menEffaceImage);
 }
 
 }  // namespace orva

@@ -1,6 +1,5 @@
 // Colours as the logic holds them: 32-bit integers 0x00BBGGRR. RGB builds one from its three
 // components, QBColor gives the 16 colours of the platform's fixed table.
-// (A later view subsystem will take these over.)
 #pragma once
 #include <cstdint>
 

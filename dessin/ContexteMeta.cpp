@@ -1,4 +1,4 @@
-#include "vue/ContexteMeta.h"
+#include "dessin/ContexteMeta.h"
 
 #include <algorithm>
 #include <memory>

@@ -1,4 +1,4 @@
-#include "vue/ContexteJournal.h"
+#include "dessin/ContexteJournal.h"
 
 #include <algorithm>
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "vue/Contexte.h"
+#include "dessin/Contexte.h"
 
 namespace orva {
 

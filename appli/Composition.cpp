@@ -1,0 +1,106 @@
+#include "appli/Composition.h"
+
+#include "anamorphose/FrmAnamorphose.h"
+#include "appli/Demarrage.h"
+#include "dessin/Dessin.h"
+#include "edition/ModifArcs.h"
+#include "edition/ModifNoeuds.h"
+#include "graphe/FichiersArcs.h"
+#include "graphe/FichiersNoeuds.h"
+#include "graphe/Inscriptions.h"
+#include "graphe/Modes.h"
+#include "noyau/Def.h"
+#include "noyau/Orva.h"
+#include "noyau/Registre.h"
+#include "relief/OptionsRelief.h"
+#include "vue/Angles.h"
+#include "vue/AspectVisuelArcs.h"
+#include "vue/AspectVisuelArcsAttr.h"
+#include "vue/AspectVisuelNoeuds.h"
+#include "vue/ChargeGraphe.h"
+#include "vue/CoucheArcs.h"
+#include "vue/CoucheNoeuds.h"
+#include "vue/Enregistrement.h"
+#include "vue/OptionsRedess.h"
+#include "vue/ParamAffichage.h"
+#include "vue/Projection.h"
+#include "vue/Redessine.h"
+#include "vue/SeuilsAffichage.h"
+#include "vue/Souris.h"
+#include "vue/TraceArcs.h"
+
+namespace orva {
+
+namespace {
+
+struct Liaison {
+  const char* menu;
+  void (*commande)();
+};
+
+// The menu entries and their commands, in menu order. An entry that is not here is known and
+// does nothing ("pas encore disponible" in the window).
+const Liaison kLiaisons[] = {
+    {"menFichierVilles", menFichierVilles},
+    {"menFichierOriginesDestinations", menFichierOriginesDestinations},
+    {"menFichiersGraphe", menFichiersGraphe},
+    {"menSortie", menSortie},
+    {"menAngles", menAngles},
+    {"menZoomSouris", menZoomSouris},
+    {"menParamAffichage", menParamAffichage},
+    {"menZoomBarreOutils", menZoomBarreOutils},
+    {"menImageVectorielle", menImageVectorielle},
+    {"menRedessine", menRedessine},
+    {"menOptionsRedessine", menOptionsRedessine},
+    {"menEffaceImage", menEffaceImage},
+    {"menAfficheVilles", menAfficheVilles},
+    {"menAfficheNomsVilles", menAfficheNomsVilles},
+    {"menOptionsAffichageVilles", menOptionsAffichageVilles},
+    {"menOptionsAffichageNoms", menOptionsAffichageNoms},
+    {"menTraceTrajets", menTraceTrajets},
+    {"menCouleursNoeuds", menCouleursNoeuds},
+    {"menArcsTrajets", menArcsTrajets},
+    {"menArcsAttractions", menArcsAttractions},
+    {"menAPropos", menAPropos},
+};
+
+}  // namespace
+
+void EnregistreTout() {
+  // The store and the main window first: the subsystems register into their tables.
+  EnregistreNoyau();
+  EnregistreOrva();
+  EnregistreGraphe();
+  // The dialogs, in the order of the table of dialogs.
+  EnregistreModifArcs();
+  EnregistreModifNoeuds();
+  EnregistreAngles();
+  EnregistreFrmAnamorphose();
+  EnregistreTraceArcs();
+  EnregistreOptionsRelief();
+  EnregistreParamAffichage();
+  EnregistreSouris();
+  EnregistreDessin();
+  EnregistreVueNoeuds();
+  EnregistreVueArcs();
+  for (const Liaison& l : kLiaisons) LieMenu(l.menu, l.commande);
+}
+
+void ReinitialiseTout() {
+  ReinitialiseNoyau();
+  EnregistreTout();
+}
+
+void EnregistreRoutines() {
+  auto& r = Routines();
+  r.emplace("ImplementeIndicesArcs", [] { ImplementeIndicesArcs(); });
+  r.emplace("DefinitOrientationArcs", [] { DefinitOrientationArcs(); });
+  r.emplace("DefinitModesNoeuds", [] { DefinitModesNoeuds(); });
+  r.emplace("RecenseModesPresents", [] { RecenseModesPresents(); });
+  r.emplace("CalculeCoordonneesEcran", [] { CalculeCoordonneesEcran(); });
+  r.emplace("TrieNoeudsProfondeur", [] { TrieNoeudsProfondeur(); });
+  r.emplace("RempliListesNoeuds", [] { RempliListesNoeuds(); });
+  r.emplace("InitialiseOrva", [] { InitialiseOrva(); });
+}
+
+}  // namespace orva

@@ -1,0 +1,12 @@
+// The command that loads a graph and shows it: the node and arc files chosen, read in the layout
+// of FormatLong, then projected, indexed and drawn.
+#pragma once
+
+namespace orva {
+
+// Chooses both files (menFichierVilles, menFichierOriginesDestinations), loads them by FormatLong
+// and runs the projection, the index passes, the mode sets and the node layer. A file that does
+// not exist ends the command after ExisteFichier's message; a cancelled dialog ends it quietly.
+void menFichiersGraphe();
+
+}  // namespace orva
