@@ -3,8 +3,8 @@
 #pragma once
 #include <cstdint>
 
-#include "noyau/Controles.h"
 #include "dessin/Surface.h"
+#include "noyau/Controles.h"
 
 namespace orva {
 

@@ -8,11 +8,11 @@
 #include <cstdint>
 #include <string>
 
-#include "noyau/Def.h"
 #include "dessin/Contexte.h"
 #include "dessin/ContexteMeta.h"
-#include "noyau/Couleurs.h"
 #include "dessin/Surface.h"
+#include "noyau/Couleurs.h"
+#include "noyau/Def.h"
 
 namespace orva {
 

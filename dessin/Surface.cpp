@@ -5,8 +5,8 @@
 #include <cmath>
 #include <optional>
 
-#include "noyau/Plateforme.h"
 #include "dessin/ContexteRaster.h"
+#include "noyau/Plateforme.h"
 
 namespace orva {
 

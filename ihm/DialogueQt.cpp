@@ -21,10 +21,10 @@
 #include <QVBoxLayout>
 #include <set>
 
+#include "dessin/Apercu.h"
 #include "ihm/Icones.h"
 #include "ihm/PortQt.h"
 #include "noyau/Controles.h"
-#include "dessin/Apercu.h"
 
 namespace orva {
 

@@ -10,11 +10,11 @@
 #include <QStatusBar>
 #include <QToolBar>
 
+#include "dessin/Surface.h"
 #include "ihm/Icones.h"
 #include "ihm/PortQt.h"
 #include "noyau/Orva.h"
 #include "vue/Souris.h"
-#include "dessin/Surface.h"
 
 namespace orva {
 

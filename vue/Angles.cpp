@@ -1,5 +1,6 @@
 #include "vue/Angles.h"
 
+#include "dessin/Surface.h"
 #include "graphe/Inscriptions.h"
 #include "noyau/Conversions.h"
 #include "noyau/Def.h"
@@ -8,7 +9,6 @@
 #include "noyau/Registre.h"
 #include "vue/CoucheNoeuds.h"
 #include "vue/Projection.h"
-#include "dessin/Surface.h"
 
 namespace orva {
 

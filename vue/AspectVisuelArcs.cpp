@@ -2,11 +2,11 @@
 
 #include "graphe/Modes.h"
 #include "noyau/Conversions.h"
+#include "noyau/Couleurs.h"
 #include "noyau/Def.h"
 #include "noyau/Plateforme.h"
 #include "noyau/Registre.h"
 #include "vue/CoucheArcs.h"
-#include "noyau/Couleurs.h"
 
 namespace orva {
 

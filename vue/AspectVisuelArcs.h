@@ -4,9 +4,9 @@
 #pragma once
 #include <cstdint>
 
-#include "noyau/Controles.h"
 #include "dessin/Apercu.h"
 #include "dessin/Surface.h"
+#include "noyau/Controles.h"
 
 namespace orva {
 

@@ -1,10 +1,10 @@
 #include "vue/AspectVisuelArcsAttr.h"
 
 #include "noyau/Conversions.h"
+#include "noyau/Couleurs.h"
 #include "noyau/Plateforme.h"
 #include "noyau/Registre.h"
 #include "vue/AspectVisuelArcs.h"
-#include "noyau/Couleurs.h"
 
 namespace orva {
 

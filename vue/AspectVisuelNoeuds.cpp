@@ -5,8 +5,8 @@
 #include "noyau/Conversions.h"
 #include "noyau/Def.h"
 #include "noyau/Plateforme.h"
-#include "vue/SeuilsAffichage.h"
 #include "vue/CoucheNoeuds.h"
+#include "vue/SeuilsAffichage.h"
 
 namespace orva {
 

@@ -2,9 +2,9 @@
 // of the node circles, the font and colour of the names, and two boxes that the node layer reads
 // while it draws.
 #pragma once
-#include "noyau/Controles.h"
 #include "dessin/Apercu.h"
 #include "dessin/Surface.h"
+#include "noyau/Controles.h"
 
 namespace orva {
 

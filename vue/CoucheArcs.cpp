@@ -6,6 +6,8 @@
 #include <fstream>
 #include <string>
 
+#include "dessin/Dessin.h"
+#include "dessin/Surface.h"
 #include "graphe/Modes.h"
 #include "noyau/Chaines.h"
 #include "noyau/Conversions.h"
@@ -16,11 +18,9 @@
 #include "noyau/Registre.h"
 #include "vue/AspectVisuelArcs.h"
 #include "vue/AspectVisuelArcsAttr.h"
-#include "dessin/Dessin.h"
 #include "vue/Enregistrement.h"
 #include "vue/OptionsRedess.h"
 #include "vue/Redessine.h"
-#include "dessin/Surface.h"
 #include "vue/TraceArcs.h"
 
 namespace orva {

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "dessin/Dessin.h"
+#include "dessin/Surface.h"
 #include "graphe/Modes.h"
 #include "noyau/Chaines.h"
 #include "noyau/Conversions.h"
@@ -10,10 +12,8 @@
 #include "noyau/Plateforme.h"
 #include "noyau/Registre.h"
 #include "vue/AspectVisuelNoeuds.h"
-#include "dessin/Dessin.h"
 #include "vue/Enregistrement.h"
 #include "vue/SeuilsAffichage.h"
-#include "dessin/Surface.h"
 
 namespace orva {
 

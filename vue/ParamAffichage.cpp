@@ -1,12 +1,12 @@
 #include "vue/ParamAffichage.h"
 
+#include "dessin/Surface.h"
 #include "noyau/Conversions.h"
 #include "noyau/Def.h"
 #include "noyau/Orva.h"
 #include "noyau/Plateforme.h"
 #include "vue/CoucheNoeuds.h"
 #include "vue/Projection.h"
-#include "dessin/Surface.h"
 
 namespace orva {
 

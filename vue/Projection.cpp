@@ -3,10 +3,10 @@
 #include <cmath>
 #include <vector>
 
+#include "dessin/Surface.h"
 #include "noyau/Chaines.h"
 #include "noyau/Def.h"
 #include "vue/CoucheNoeuds.h"
-#include "dessin/Surface.h"
 
 namespace orva {
 

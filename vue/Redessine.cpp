@@ -1,13 +1,13 @@
 #include "vue/Redessine.h"
 
+#include "dessin/Dessin.h"
+#include "dessin/Surface.h"
 #include "graphe/Modes.h"
 #include "noyau/Def.h"
 #include "noyau/Plateforme.h"
 #include "vue/CoucheArcs.h"
 #include "vue/CoucheNoeuds.h"
-#include "dessin/Dessin.h"
 #include "vue/OptionsRedess.h"
-#include "dessin/Surface.h"
 #include "vue/TraceArcs.h"
 
 namespace orva {

@@ -1,10 +1,10 @@
 #include "vue/SeuilsAffichage.h"
 
+#include "dessin/Surface.h"
 #include "noyau/Conversions.h"
 #include "noyau/Def.h"
 #include "noyau/Plateforme.h"
 #include "vue/CoucheNoeuds.h"
-#include "dessin/Surface.h"
 
 namespace orva {
 

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "dessin/Surface.h"
 #include "noyau/Conversions.h"
 #include "noyau/Def.h"
 #include "noyau/Orva.h"
@@ -9,7 +10,6 @@
 #include "noyau/Registre.h"
 #include "vue/CoucheNoeuds.h"
 #include "vue/Projection.h"
-#include "dessin/Surface.h"
 
 namespace orva {
 

@@ -3,12 +3,12 @@
 #include <gtest/gtest.h>
 
 #include "commun/Fixture.h"
-#include "noyau/Erreurs.h"
-#include "noyau/Orva.h"
-#include "noyau/Registre.h"
 #include "dessin/ContexteJournal.h"
 #include "dessin/ContexteRaster.h"
 #include "dessin/Dessin.h"
+#include "noyau/Erreurs.h"
+#include "noyau/Orva.h"
+#include "noyau/Registre.h"
 
 namespace orva {
 namespace {

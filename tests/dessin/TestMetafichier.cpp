@@ -8,11 +8,11 @@
 #include <fstream>
 
 #include "commun/Fixture.h"
-#include "image/ExportImage.h"
 #include "dessin/ContexteJournal.h"
 #include "dessin/ContexteMeta.h"
 #include "dessin/ContexteRaster.h"
 #include "dessin/Dessin.h"
+#include "image/ExportImage.h"
 
 namespace orva {
 namespace {

@@ -27,11 +27,12 @@
 #include <sstream>
 
 #include "appli/Composition.h"
+#include "appli/Demarrage.h"
+#include "dessin/Surface.h"
 #include "ihm/DialogueQt.h"
 #include "ihm/FenetrePrincipale.h"
 #include "ihm/PortQt.h"
 #include "noyau/Def.h"
-#include "appli/Demarrage.h"
 #include "noyau/Orva.h"
 #include "scenario/Scenario.h"
 #include "vue/Angles.h"
@@ -39,7 +40,6 @@
 #include "vue/OptionsRedess.h"
 #include "vue/Projection.h"
 #include "vue/Souris.h"
-#include "dessin/Surface.h"
 
 namespace orva {
 namespace {

@@ -4,14 +4,14 @@
 #include <string>
 
 #include "commun/Fixture.h"
+#include "dessin/ContexteJournal.h"
 #include "graphe/Modes.h"
+#include "noyau/Couleurs.h"
 #include "noyau/Def.h"
 #include "noyau/Orva.h"
 #include "vue/AspectVisuelArcs.h"
 #include "vue/AspectVisuelArcsAttr.h"
-#include "dessin/ContexteJournal.h"
 #include "vue/CoucheArcs.h"
-#include "noyau/Couleurs.h"
 
 namespace orva {
 namespace {

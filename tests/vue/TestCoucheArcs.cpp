@@ -12,16 +12,16 @@
 
 #include "appli/Composition.h"
 #include "commun/Fixture.h"
+#include "dessin/ContexteJournal.h"
+#include "dessin/Dessin.h"
+#include "dessin/Surface.h"
 #include "graphe/Modes.h"
 #include "noyau/Conversions.h"
 #include "noyau/Def.h"
 #include "noyau/Erreurs.h"
 #include "noyau/Orva.h"
 #include "vue/AspectVisuelArcs.h"
-#include "dessin/ContexteJournal.h"
 #include "vue/CoucheArcs.h"
-#include "dessin/Dessin.h"
-#include "dessin/Surface.h"
 #include "vue/TraceArcs.h"
 
 namespace orva {

@@ -5,17 +5,17 @@
 #include <vector>
 
 #include "commun/Fixture.h"
+#include "dessin/ContexteJournal.h"
+#include "dessin/Dessin.h"
+#include "dessin/Surface.h"
 #include "graphe/Modes.h"
 #include "noyau/Conversions.h"
 #include "noyau/Def.h"
 #include "noyau/Orva.h"
 #include "relief/OptionsRelief.h"
 #include "vue/AspectVisuelNoeuds.h"
-#include "dessin/ContexteJournal.h"
 #include "vue/CoucheNoeuds.h"
-#include "dessin/Dessin.h"
 #include "vue/SeuilsAffichage.h"
-#include "dessin/Surface.h"
 
 namespace orva {
 namespace {

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "commun/Fixture.h"
+#include "dessin/Surface.h"
 #include "noyau/Conversions.h"
 #include "noyau/Def.h"
 #include "noyau/Orva.h"
@@ -11,7 +12,6 @@
 #include "vue/ParamAffichage.h"
 #include "vue/Projection.h"
 #include "vue/Souris.h"
-#include "dessin/Surface.h"
 
 namespace orva {
 namespace {

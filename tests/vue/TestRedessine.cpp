@@ -5,15 +5,15 @@
 #include <vector>
 
 #include "commun/Fixture.h"
+#include "dessin/ContexteJournal.h"
+#include "dessin/Dessin.h"
+#include "dessin/Surface.h"
 #include "graphe/Modes.h"
 #include "noyau/Def.h"
 #include "noyau/Orva.h"
-#include "dessin/ContexteJournal.h"
 #include "vue/CoucheArcs.h"
-#include "dessin/Dessin.h"
 #include "vue/OptionsRedess.h"
 #include "vue/Redessine.h"
-#include "dessin/Surface.h"
 #include "vue/TraceArcs.h"
 
 namespace orva {

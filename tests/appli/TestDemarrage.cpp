@@ -3,9 +3,9 @@
 
 #include <filesystem>
 
+#include "appli/Demarrage.h"
 #include "commun/Fixture.h"
 #include "noyau/Def.h"
-#include "appli/Demarrage.h"
 #include "noyau/Fichiers.h"
 #include "noyau/Orva.h"
 
