@@ -211,7 +211,7 @@ void RecenseModesPresents() {
     }
     if (t.NbArcsMode > meilleur) {
       meilleur = t.NbArcsMode;
-      for (Liste* l : Inscrits.ListesModes) l->ListIndex = static_cast<int>(i - 1);
+      for (Liste* l : Inscrits.ListesModes) l->Choisit(static_cast<int>(i - 1));
     }
   }
 }

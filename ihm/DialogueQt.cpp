@@ -360,10 +360,10 @@ void DialogueQt::AjouteControle(const std::string& nom, Controle* c) {
     if (li->Combo) {
       auto* w = new QComboBox(this);
       w->setObjectName(on);
-      w->setEditable(li->Editable);
+      w->setEditable(li->Saisissable());
       w->setMaxVisibleItems(20);
       w->setMinimumContentsLength(12);
-      if (li->Editable) w->setInsertPolicy(QComboBox::NoInsert);
+      if (li->Saisissable()) w->setInsertPolicy(QComboBox::NoInsert);
       connect(w, &QComboBox::activated, this, [this, li, w](int i) {
         Action([li, w, i] {
           li->ListIndex = i;
@@ -371,7 +371,7 @@ void DialogueQt::AjouteControle(const std::string& nom, Controle* c) {
           if (li->Click) li->Click();
         });
       });
-      if (li->Editable)
+      if (li->Saisissable())
         connect(w->lineEdit(), &QLineEdit::textEdited, this, [this, li, w](const QString& s) {
           Action([li, w, s] {
             li->Text = s.toStdString();
@@ -388,7 +388,7 @@ void DialogueQt::AjouteControle(const std::string& nom, Controle* c) {
           for (auto& r : li->Lignes) w->addItem(Q(r));
         }
         w->setCurrentIndex(li->ListIndex < w->count() ? li->ListIndex : -1);
-        if (li->Editable && w->currentText() != Q(li->Text)) w->setEditText(Q(li->Text));
+        if (li->Saisissable() && w->currentText() != Q(li->Text)) w->setEditText(Q(li->Text));
         w->setEnabled(li->Enabled);
         w->setVisible(li->Visible);
         l->setVisible(li->Visible);

@@ -52,25 +52,36 @@ struct Curseur : Controle {
   std::function<void()> Change;
 };
 
-// List or combo; an editable combo also has its own text.
+// List or combo. A combo's text can be typed, as with the platform's default combo (a drop-down
+// list, ListeDeroulante, cannot): it has a text of its own, which a chosen row replaces, and a
+// text typed that no row has leaves ListIndex at -1 and fires Change. Click is the choice of a row.
 struct Liste : Controle {
   std::vector<std::string> Lignes;
   int ListIndex = -1;
   bool MultiSelect = false;
-  bool Combo = false;     // drop-down combo rather than an open list
-  bool Editable = false;  // combo whose text can be typed
+  bool Combo = false;             // drop-down combo rather than an open list
+  bool ListeDeroulante = false;   // a combo whose text cannot be typed
+  bool Editable = false;          // a text can be typed (any combo but a drop-down list)
   std::vector<bool> Selected;
-  std::string Text;  // editable combo
+  std::string Text;  // the text of a combo that can be typed
   std::function<void()> Change;
   std::function<void()> DblClick;
 
   void Clear() { Lignes.clear(); Selected.clear(); ListIndex = -1; }
   void AddItem(const std::string& s) { Lignes.push_back(s); Selected.push_back(false); }
   int ListCount() const { return static_cast<int>(Lignes.size()); }
-  std::string TexteSelection() const {
-    if (Editable) return Text;
+  bool Saisissable() const { return Editable || (Combo && !ListeDeroulante); }
+  // The text of the selected row ("" when none is).
+  std::string LigneChoisie() const {
     if (ListIndex < 0 || ListIndex >= ListCount()) return {};
     return Lignes[static_cast<std::size_t>(ListIndex)];
+  }
+  // What the control holds: a combo's text, or the selected row of a list.
+  std::string TexteSelection() const { return Saisissable() ? Text : LigneChoisie(); }
+  // Selects row i (-1: none) as setting ListIndex does: a combo's text becomes the row's.
+  void Choisit(int i) {
+    ListIndex = i;
+    if (Saisissable()) Text = LigneChoisie();
   }
 };
 

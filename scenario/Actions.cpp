@@ -51,7 +51,7 @@ void Selectionne(Liste& l, long i, bool ajoute) {
     }
   }
   l.ListIndex = static_cast<int>(i);
-  if (l.Editable && i >= 0) l.Text = l.Lignes[static_cast<std::size_t>(i)];
+  if (l.Saisissable() && i >= 0) l.Text = l.Lignes[static_cast<std::size_t>(i)];
   if (change) Declenche(l.Click);
 }
 
@@ -78,8 +78,8 @@ ResultatAction AffecteListe(Liste& l, const std::string& valeur) {
       return Resultat(ResultatAction::Faite);
     }
   }
-  if (!l.Editable) return Resultat(ResultatAction::HorsLimites, "aucune ligne de ce texte");
-  // An editable combo takes the text as typed.
+  if (!l.Saisissable()) return Resultat(ResultatAction::HorsLimites, "aucune ligne de ce texte");
+  // A combo takes the text as typed.
   if (l.Text != valeur || l.ListIndex != -1) {
     l.Text = valeur;
     l.ListIndex = -1;

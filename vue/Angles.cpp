@@ -48,7 +48,6 @@ void EnregistreAngles() {
   d.Gauge3.Max = 360;
   d.Gauge3.Value = 180;
   d.ListeModifiable1.Combo = true;
-  d.ListeModifiable1.Editable = true;
   d.Option1.Caption = "Trie les villes";
   d.Coche1.Caption = "Seulement les données";
   d.Commande1.Caption = "OK";

@@ -32,9 +32,10 @@ void MontreCouleur(int32_t c) {
   EtatAspectVisuelArcs& d = AspectVisuelArcs;
   d.CouleurImage1 = c;
   d.Text3.Text = CStr(static_cast<long>(c));
-  d.Combo1.ListIndex = -1;
+  int rang = -1;
   for (std::size_t k = 0; k < std::size(kCouleurs); ++k)
-    if (QBColor(kCouleurs[k].numero) == c) d.Combo1.ListIndex = static_cast<int>(k);
+    if (QBColor(kCouleurs[k].numero) == c) rang = static_cast<int>(k);
+  d.Combo1.Choisit(rang);
 }
 
 int32_t CouleurDeLettre(const Mode& m, char lettre) {
@@ -136,6 +137,7 @@ void EnregistreAspectVisuelArcs() {
   };
   d.Commande2.Click = [] { ExecuteCommande("AspectVisuelArcs.Commande2", AspectVisuelArcsCommande2); };
   d.Combo1.Click = [] { ExecuteCommande("AspectVisuelArcs.Combo1", AspectVisuelArcsCombo1); };
+  d.Combo1.Change = [] { ExecuteCommande("AspectVisuelArcs.Combo1", AspectVisuelArcsCombo1Change); };
   d.Option3D6.Click = [] { ExecuteCommande("AspectVisuelArcs.Option3D6", [] { AspectVisuelArcsOption('C'); }); };
   d.Option3D7.Click = [] { ExecuteCommande("AspectVisuelArcs.Option3D7", [] { AspectVisuelArcsOption('P'); }); };
   d.Option3D8.Click = [] { ExecuteCommande("AspectVisuelArcs.Option3D8", [] { AspectVisuelArcsOption('M'); }); };
@@ -241,10 +243,14 @@ void AspectVisuelArcsCommande2() {
   DessineApercuArcs();
 }
 
-void AspectVisuelArcsCombo1() {
+void AspectVisuelArcsCombo1() { PrendCouleurNommee(AspectVisuelArcs.Combo1.LigneChoisie()); }
+
+void AspectVisuelArcsCombo1Change() { PrendCouleurNommee(AspectVisuelArcs.Combo1.Text); }
+
+void PrendCouleurNommee(const std::string& nom) {
   int32_t c = AspectVisuelArcs.CouleurImage1;
   // An unknown name leaves the colour as it was.
-  if (CouleurParNom(AspectVisuelArcs.Combo1.TexteSelection(), c)) {
+  if (CouleurParNom(nom, c)) {
     AspectVisuelArcs.CouleurImage1 = c;
     AspectVisuelArcs.Text3.Text = CStr(static_cast<long>(c));
   }

@@ -49,7 +49,11 @@ void StockeAspectArcs();
 // Options of the comparison: the colour being edited changes.
 void AspectVisuelArcsOption(char lettre);
 void AspectVisuelArcsCommande2();
+// Combo1: the colour of the row chosen (Click) or of the name typed (Change); an unknown name
+// leaves it as it was.
 void AspectVisuelArcsCombo1();
+void AspectVisuelArcsCombo1Change();
+void PrendCouleurNommee(const std::string& nom);
 void AspectVisuelArcsFleches();
 void AspectVisuelArcsCommand1();
 void AspectVisuelArcsCommande1();

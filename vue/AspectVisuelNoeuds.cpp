@@ -40,10 +40,7 @@ void EnregistreAspectVisuelNoeuds() {
   d.Caption = "Paramétres d'affichage des noeuds";
   d.Combo1.Caption = "Rayon du cercle";
   d.Combo2.Caption = "Epaisseur du cercle";
-  for (Liste* l : {&d.Combo1, &d.Combo2}) {
-    l->Combo = true;
-    l->Editable = true;
-  }
+  d.Combo1.Combo = d.Combo2.Combo = true;
   d.Command3D1.Caption = "Intérieur";
   d.Command3D2.Caption = "Bord";
   d.CouleursModes.Caption = "Couleur des modes";

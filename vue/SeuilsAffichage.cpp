@@ -86,7 +86,6 @@ void EnregistreSeuilsAffichage() {
   }
   d.ListeModifiable1.Caption = "Nombre de lettres à afficher";
   d.ListeModifiable1.Combo = true;
-  d.ListeModifiable1.Editable = true;
   d.Command3D1.Caption = "OK";
   d.Command3D2.Caption = "Annuler";
   d.Command3D3.Caption = "Test d'affichage";

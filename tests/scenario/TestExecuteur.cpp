@@ -23,7 +23,7 @@ struct Essai : Dialogue {
   CaseACocher Case;
   BoutonOption Un, Deux;
   ZoneTexte Texte;
-  Liste Villes, Combo, Multi;
+  Liste Villes, Combo, Multi, Deroulante;
   Etiquette Legende;
   std::deque<BoutonOption> Choix = std::deque<BoutonOption>(3);
 };
@@ -50,6 +50,7 @@ class Scenario : public OrvaTest {
       d->Ajoute("Villes", d->Villes);
       d->Ajoute("Combo", d->Combo);
       d->Ajoute("Multi", d->Multi);
+      d->Ajoute("Déroulante", d->Deroulante);
       d->Ajoute("Légende", d->Legende);
       d->AjouteTableau("Choix", [d](int i) -> Controle* {
         return i >= 0 && i < 3 ? &d->Choix[static_cast<std::size_t>(i)] : nullptr;
@@ -71,9 +72,11 @@ class Scenario : public OrvaTest {
     externe.Villes.Click = [this] { journal.push_back("Villes " + std::to_string(externe.Villes.ListIndex)); };
     externe.Villes.DblClick = [this] { journal.push_back("dblclic " + std::to_string(externe.Villes.ListIndex)); };
     for (const char* v : {" ", "PARIS          ", "LYON", "TOURS"}) externe.Villes.AddItem(v);
-    externe.Combo.Editable = true;
+    externe.Combo.Combo = true;
     externe.Combo.Change = [this] { journal.push_back("Combo " + externe.Combo.Text); };
     for (const char* v : {"TGV", "Train"}) externe.Combo.AddItem(v);
+    externe.Deroulante.Combo = externe.Deroulante.ListeDeroulante = true;
+    for (const char* v : {"Non", "Oui"}) externe.Deroulante.AddItem(v);
     externe.Multi.MultiSelect = true;
     for (const char* v : {"a", "b", "c"}) externe.Multi.AddItem(v);
     for (int i = 0; i < 3; ++i) externe.Choix[static_cast<std::size_t>(i)].Caption = "choix " + std::to_string(i);
@@ -239,6 +242,22 @@ TEST_F(Scenario, CasesOptionsTextes) {
             "{\"type\":\"affiche\",\"expr\":\"Externe.Choix(1).Caption\",\"valeur\":\"choix 1\"}\n");
   EXPECT_FALSE(externe.Choix[0].Value);
   EXPECT_FALSE(externe.Choix[1].Value);
+}
+
+// A combo takes a text that no row has, as typed; a drop-down list refuses it.
+TEST_F(Scenario, CombosSaisissables) {
+  std::string s = Lance(
+      "Externe.Combo = Bateau\n"
+      "affiche Externe.Combo\n"
+      "Externe.Déroulante = Peut-être\n"
+      "Externe.Déroulante = Oui\n"
+      "affiche Externe.Déroulante\n",
+      2);
+  EXPECT_EQ(journal, (std::vector<std::string>{"Combo Bateau"}));
+  EXPECT_EQ(s,
+            "{\"type\":\"affiche\",\"expr\":\"Externe.Combo\",\"valeur\":\"Bateau\"}\n"
+            "{\"type\":\"erreur\",\"ligne\":3,\"texte\":\"aucune ligne de ce texte : Externe.Déroulante = Peut-être\"}\n"
+            "{\"type\":\"affiche\",\"expr\":\"Externe.Déroulante\",\"valeur\":\"Oui\"}\n");
 }
 
 TEST_F(Scenario, Listes) {

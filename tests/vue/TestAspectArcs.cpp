@@ -62,6 +62,24 @@ TEST_F(AspectArcs, OuvertureSurLePremierMode) {
   EXPECT_EQ(AspectVisuelArcs.Combo1.TexteSelection(), "ROUGE");
 }
 
+// A name typed in the colour combo: a known one takes its colour, an unknown one leaves it; a row
+// chosen shows its name as the combo's text.
+TEST_F(AspectArcs, NomDeCouleurTape) {
+  Ouvre("Ferry");
+  Liste& c = AspectVisuelArcs.Combo1;
+  c.Text = "JAUNE";
+  c.ListIndex = -1;
+  c.Change();
+  EXPECT_EQ(AspectVisuelArcs.CouleurImage1, QBColor(6));
+  c.Text = "GRIS";
+  c.Change();
+  EXPECT_EQ(AspectVisuelArcs.CouleurImage1, QBColor(6));
+  Choisit(AspectVisuelArcs.Option3D6);
+  EXPECT_EQ(c.TexteSelection(), "JAUNE");
+  c.Choisit(-1);
+  EXPECT_EQ(c.TexteSelection(), "");
+}
+
 TEST_F(AspectArcs, EpaisseursStockees) {
   Ouvre("Route60");
   AspectVisuelArcs.Text1.Text = "0";
