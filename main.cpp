@@ -1,6 +1,9 @@
 // ORVA: the GUI by default, the scenario runner with --script, before any window exists.
 #include <QApplication>
 #include <QGuiApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
 #include <cstring>
 #include <filesystem>
 #include <iostream>
@@ -33,6 +36,10 @@ int main(int argc, char** argv) {
   QApplication app(argc, argv);
   QApplication::setApplicationName("ORVA");
   QApplication::setDesktopFileName("orva");
+  // The platform's own boxes (files, colours, fonts, buttons) in French.
+  QTranslator traduction;
+  if (traduction.load(QLocale(QLocale::French), "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    QApplication::installTranslator(&traduction);
   orva::EnregistreTout();
   if (!racine.empty()) {
     std::error_code ec;

@@ -42,6 +42,7 @@ struct DescriptionPolice {
   int32_t Graisse = 400;
   bool Italique = false;
   bool Souligne = false;
+  bool Barre = false;  // strike-through
   std::string Nom = "Arial";
 };
 

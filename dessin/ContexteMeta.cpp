@@ -41,7 +41,7 @@ std::vector<uint16_t> MotsPolice(const DescriptionPolice& d) {
   AjouteMot(o, Mot(d.Graisse));
   o.push_back(d.Italique ? 1 : 0);
   o.push_back(d.Souligne ? 1 : 0);
-  o.push_back(0);  // strike-out
+  o.push_back(d.Barre ? 1 : 0);
   o.push_back(0);  // ANSI character set
   o.push_back(0);  // output precision
   o.push_back(0);  // clipping precision
@@ -62,6 +62,7 @@ DescriptionPolice PoliceDeMots(const uint16_t* p, std::size_t n) {
   d.Graisse = Signe(p[4]);
   d.Italique = (p[5] & 0xFF) != 0;
   d.Souligne = (p[5] >> 8) != 0;
+  d.Barre = (p[6] & 0xFF) != 0;
   std::string nom;
   for (std::size_t i = 9; i < n && nom.size() < 32; ++i) {
     char a = static_cast<char>(p[i] & 0xFF), b = static_cast<char>(p[i] >> 8);

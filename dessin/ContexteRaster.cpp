@@ -82,6 +82,7 @@ QFont PoliceQt(const DescriptionPolice& d) {
   f.setWeight(static_cast<QFont::Weight>(std::clamp(d.Graisse == 0 ? 400 : d.Graisse, 1, 1000)));
   f.setItalic(d.Italique);
   f.setUnderline(d.Souligne);
+  f.setStrikeOut(d.Barre);
   f.setStyleStrategy(QFont::NoAntialias);
   return f;
 }

@@ -187,6 +187,8 @@ void EnregistreSurface(const std::string& nom, SurfaceImage& s) {
   EnregistreReglage(nom + ".AutoRedraw", s.AutoRedraw);
   EnregistreReglage(nom + ".Visible", s.Visible);
   EnregistreReglage(nom + ".FontName", s.Font.Nom);
+  EnregistreReglage(nom + ".FontUnderline", s.Font.Souligne);
+  EnregistreReglage(nom + ".FontStrikethru", s.Font.Barre);
 }
 
 }  // namespace

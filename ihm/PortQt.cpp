@@ -4,7 +4,6 @@
 #include <QClipboard>
 #include <QColorDialog>
 #include <QFileDialog>
-#include <QFontDialog>
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QImage>
@@ -15,6 +14,7 @@
 #include <QProcess>
 #include <QPushButton>
 
+#include "ihm/BoitePolice.h"
 #include "ihm/DialogueQt.h"
 #include "noyau/Controles.h"
 #include "noyau/Erreurs.h"
@@ -110,19 +110,9 @@ std::optional<int32_t> PortQt::DialogueCouleur(int32_t initiale) {
 }
 
 std::optional<Police> PortQt::DialoguePolice(const Police& initiale) {
-  bool ok = false;
-  QFont f(Q(initiale.Nom));
-  f.setPointSizeF(initiale.Taille);
-  f.setBold(initiale.Gras);
-  f.setItalic(initiale.Italique);
-  QFont r = QFontDialog::getFont(&ok, f, parent_);
-  if (!ok) return std::nullopt;
-  Police p = initiale;
-  p.Nom = r.family().toStdString();
-  p.Taille = r.pointSizeF();
-  p.Gras = r.bold();
-  p.Italique = r.italic();
-  return p;
+  BoitePolice boite(initiale, parent_);
+  if (boite.exec() != QDialog::Accepted) return std::nullopt;
+  return boite.Choix();
 }
 
 void PortQt::MontreDialogue(const std::string& nom, bool modal) {

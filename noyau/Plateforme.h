@@ -17,6 +17,8 @@ struct Police {
   double Taille = 8.25;
   bool Gras = false;
   bool Italique = false;
+  bool Souligne = false;
+  bool Barre = false;   // strike-through
   int32_t Couleur = 0;  // 0x00BBGGRR
 };
 

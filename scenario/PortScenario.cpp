@@ -165,8 +165,13 @@ std::optional<int32_t> PortScenario::DialogueCouleur(int32_t) {
 std::optional<Police> PortScenario::DialoguePolice(const Police& initiale) {
   auto a = Prend(GenreLigne::Police);
   std::optional<Police> r = a ? a->PoliceChoisie : std::nullopt;
-  // A font answer without a colour keeps the colour the dialog opened with.
+  // A font answer without a colour keeps the colour the dialog opened with; the line cannot say
+  // underline and strike-through, which stay as they were.
   if (r && !a->PoliceAvecCouleur) r->Couleur = initiale.Couleur;
+  if (r) {
+    r->Souligne = initiale.Souligne;
+    r->Barre = initiale.Barre;
+  }
   evenements_.Ecrit(ObjetJson("police").TexteOuNul("reponse", r ? a->TexteReponse : std::nullopt).Booleen("defaut", !a));
   return r;
 }

@@ -114,6 +114,8 @@ void AspectVisuelNoeudsPolice() {
   initiale.Taille = PointsDe(Ima.Font);
   initiale.Gras = Ima.Font.Graisse >= 700;
   initiale.Italique = Ima.Font.Italique;
+  initiale.Souligne = Ima.Font.Souligne;
+  initiale.Barre = Ima.Font.Barre;
   initiale.Couleur = CouleurNoms;
   auto p = Port().DialoguePolice(initiale);
   if (!p) return;
@@ -122,6 +124,8 @@ void AspectVisuelNoeudsPolice() {
     s->Font.Hauteur = HauteurDe(p->Taille);
     s->Font.Graisse = p->Gras ? 700 : 400;
     s->Font.Italique = p->Italique;
+    s->Font.Souligne = p->Souligne;
+    s->Font.Barre = p->Barre;
   }
   CouleurNoms = p->Couleur;
 }

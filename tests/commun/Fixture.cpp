@@ -40,6 +40,14 @@ std::optional<std::string> PortTest::DialogueFichier(const DemandeFichier&) {
   return r;
 }
 
+std::optional<Police> PortTest::DialoguePolice(const Police& initiale) {
+  policesInitiales.push_back(initiale);
+  if (polices.empty()) return std::nullopt;
+  auto r = polices.front();
+  polices.pop_front();
+  return r;
+}
+
 void OrvaTest::SetUp() {
   ReinitialiseTout();
   DefinitPort(&port);

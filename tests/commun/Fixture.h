@@ -23,6 +23,8 @@ class PortTest : public Plateforme {
   std::deque<Reponse> reponses;
   std::deque<std::optional<std::string>> saisies;
   std::deque<std::optional<std::string>> fichiers;
+  std::deque<std::optional<Police>> polices;  // answers of the font box, cancelled when none
+  std::vector<Police> policesInitiales;       // what each font box opened with
   std::vector<std::string> montres;
   std::vector<std::string> programmes;
 
@@ -30,7 +32,7 @@ class PortTest : public Plateforme {
   std::optional<std::string> InputBox(const std::string&, const std::string&, const std::string& d) override;
   std::optional<std::string> DialogueFichier(const DemandeFichier&) override;
   std::optional<int32_t> DialogueCouleur(int32_t) override { return std::nullopt; }
-  std::optional<Police> DialoguePolice(const Police&) override { return std::nullopt; }
+  std::optional<Police> DialoguePolice(const Police& initiale) override;
   void MontreDialogue(const std::string& nom, bool) override { montres.push_back(nom); }
   void CacheDialogue(const std::string&) override {}
   void Sablier(bool) override {}

@@ -156,6 +156,42 @@ TEST_F(Raster, TexteDansLaPoliceChoisie) {
   DeleteObject(p);
 }
 
+// Underline and strike-through add a stroke across the whole text: below it, through its middle.
+TEST_F(Raster, TexteSouligneEtBarre) {
+  AssureApplicationGraphique();
+  auto trace = [](bool souligne, bool barre) {
+    QImage im = Blanche(120, 40);
+    ContexteRaster dc(&im);
+    DescriptionPolice d;
+    d.Hauteur = -20;
+    d.Souligne = souligne;
+    d.Barre = barre;
+    Objet p = CreateFontIndirect(d);
+    dc.SelectObject(p);
+    dc.TextOut(10, 5, "ROME");
+    DeleteObject(p);
+    return im;
+  };
+  // The rows of ink that run, unbroken, across most of the text.
+  auto traits = [](const QImage& im) {
+    const Boite e = Encre(im);
+    std::vector<int> lignes;
+    for (int y = e.haut; y <= e.bas; ++y) {
+      int n = 0;
+      for (int x = e.gauche; x <= e.droite; ++x) n += im.pixel(x, y) != kBlanc;
+      if (n >= (e.droite - e.gauche) * 9 / 10) lignes.push_back(y);
+    }
+    return lignes;
+  };
+  const QImage simple = trace(false, false), souligne = trace(true, false), barre = trace(false, true);
+  EXPECT_TRUE(traits(simple).empty());
+  ASSERT_FALSE(traits(souligne).empty());
+  ASSERT_FALSE(traits(barre).empty());
+  EXPECT_GT(traits(souligne).front(), traits(barre).back());  // the underline lies below the strike
+  EXPECT_GT(traits(barre).front(), Encre(simple).haut + 3);   // the strike runs through the letters
+  EXPECT_LT(traits(barre).back(), Encre(simple).bas - 3);
+}
+
 using Surfaces = OrvaTest;
 
 TEST_F(Surfaces, GeometrieEnPixelsEtEffacement) {

@@ -75,6 +75,45 @@ TEST_F(Metafichier, EnregistrementOctetPourOctet) {
   EXPECT_TRUE(GetMetaFileBits(h).empty());
 }
 
+// A font keeps its underline and strike-through in the recording (bytes 10 and 11 of the LOGFONT
+// record) and when the recording is played.
+TEST_F(Metafichier, PoliceSouligneeEtBarree) {
+  struct Lecteur : ContexteJournal {
+    std::vector<DescriptionPolice> polices;
+    Objet SelectObject(Objet o) override {
+      DescriptionPolice d;
+      if (GetObjectPolice(o, d)) polices.push_back(d);
+      return ContexteJournal::SelectObject(o);
+    }
+  };
+  Contexte* dc = CreateMetaFile();
+  DescriptionPolice d;
+  d.Nom = "Arial";
+  d.Souligne = true;
+  d.Barre = true;
+  Objet p = CreateFontIndirect(d);
+  Objet ancienne = dc->SelectObject(p);
+  dc->TextOut(1, 2, "A");
+  dc->SelectObject(ancienne);
+  DeleteObject(p);
+  HandleMeta h = CloseMetaFile(dc);
+  const std::vector<uint8_t> octets = GetMetaFileBits(h);
+  // The first record after the header: CreateFontIndirect (0x02FB), its LOGFONT after 6 bytes.
+  ASSERT_GT(octets.size(), 18u + 6 + 12);
+  EXPECT_EQ(octets[18 + 4], 0xFB);
+  EXPECT_EQ(octets[18 + 5], 0x02);
+  EXPECT_EQ(octets[18 + 6 + 10], 0);  // italic
+  EXPECT_EQ(octets[18 + 6 + 11], 1);  // underline
+  EXPECT_EQ(octets[18 + 6 + 12], 1);  // strike-through
+  Lecteur l;
+  ASSERT_TRUE(PlayMetaFile(&l, h));
+  ASSERT_FALSE(l.polices.empty());
+  EXPECT_TRUE(l.polices.front().Souligne);
+  EXPECT_TRUE(l.polices.front().Barre);
+  EXPECT_FALSE(l.polices.front().Italique);
+  DeleteMetaFile(h);
+}
+
 TEST_F(Metafichier, IndicesDObjetsLePlusBasLibreDAbord) {
   Contexte* dc = CreateMetaFile();
   ContexteMeta = dc;

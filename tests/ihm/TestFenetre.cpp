@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
+#include <QFontDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -29,14 +30,17 @@
 #include "appli/Composition.h"
 #include "appli/Demarrage.h"
 #include "dessin/Surface.h"
+#include "ihm/BoitePolice.h"
 #include "ihm/DialogueQt.h"
 #include "ihm/FenetrePrincipale.h"
 #include "ihm/PortQt.h"
+#include "noyau/Couleurs.h"
 #include "noyau/Def.h"
 #include "noyau/Orva.h"
 #include "scenario/Scenario.h"
 #include "vue/Angles.h"
 #include "vue/AspectVisuelNoeuds.h"
+#include "vue/CoucheNoeuds.h"
 #include "vue/OptionsRedess.h"
 #include "vue/Projection.h"
 #include "vue/Souris.h"
@@ -417,6 +421,38 @@ TEST_F(Ihm, AspectDesNoeudsApercuEtModesDeTraceArcs) {
   });
   Clique("menTraceTrajets");
   EXPECT_EQ(AnnuleTrace, Vrai);
+}
+
+// The font box of the node aspect: Qt's chooser with its effects and the colour list; the
+// choice goes to the pictures and the names' colour.
+TEST_F(Ihm, BoiteDePoliceAvecCouleurEtEffets) {
+  Ima.Font.Souligne = true;
+  QuandModal("AspectVisuelNoeuds", [](QWidget* d) {
+    QuandModal("BoitePolice", [](QWidget* b) {
+      auto* polices = Enfant<QFontDialog>(b, "Polices");
+      QFont f = polices->currentFont();
+      EXPECT_TRUE(f.underline());  // opened on the font of Ima
+      f.setUnderline(false);
+      f.setStrikeOut(true);
+      polices->setCurrentFont(f);
+      auto* couleur = Enfant<QComboBox>(b, "Couleur");
+      ASSERT_GE(couleur->count(), 16);
+      couleur->setCurrentIndex(4);
+      qobject_cast<QDialog*>(b)->accept();
+    });
+    Enfant<QPushButton>(d, "Police")->click();
+    Enfant<QPushButton>(d, "Command3D3")->click();
+  });
+  Clique("menOptionsAffichageVilles");
+  EXPECT_FALSE(Ima.Font.Souligne);
+  EXPECT_TRUE(Ima.Font.Barre);
+  EXPECT_TRUE(ImaVec.Font.Barre);
+  EXPECT_EQ(CouleurNoms, QBColor(4));
+  // A colour outside the table is offered as it is, and comes back unchanged.
+  Police p;
+  p.Couleur = RGB(1, 2, 3);
+  BoitePolice boite(p, fenetre);
+  EXPECT_EQ(boite.Choix().Couleur, RGB(1, 2, 3));
 }
 
 // Every dialog of every subsystem gets its widgets from its state alone, with access keys that

@@ -283,5 +283,39 @@ TEST_F(CoucheNoeuds, SeuilsAffichageTest) {
   EXPECT_TRUE(SeuilsAffichage.Visible);
 }
 
+// The font box opens on the font of Ima and the colour of the names; its answer goes to both
+// pictures (name, size, bold, italic, underline, strike-through) and its colour to the names.
+TEST_F(CoucheNoeuds, PoliceDesNomsEtSesEffets) {
+  Ima.Font.Nom = "Arial";
+  Ima.Font.Hauteur = -16;
+  Ima.Font.Souligne = true;
+  CouleurNoms = RGB(1, 2, 3);
+  Police choix;
+  choix.Nom = "Liberation Serif";
+  choix.Taille = 9;
+  choix.Gras = true;
+  choix.Barre = true;
+  choix.Couleur = QBColor(4);
+  port.polices.push_back(choix);
+  AspectVisuelNoeudsPolice();
+  ASSERT_EQ(port.policesInitiales.size(), 1u);
+  EXPECT_EQ(port.policesInitiales[0].Taille, 12);
+  EXPECT_TRUE(port.policesInitiales[0].Souligne);
+  EXPECT_FALSE(port.policesInitiales[0].Barre);
+  EXPECT_EQ(port.policesInitiales[0].Couleur, RGB(1, 2, 3));
+  for (const SurfaceImage* s : {&Ima, &ImaVec}) {
+    EXPECT_EQ(s->Font.Nom, "Liberation Serif");
+    EXPECT_EQ(s->Font.Hauteur, -12);
+    EXPECT_EQ(s->Font.Graisse, 700);
+    EXPECT_FALSE(s->Font.Souligne);
+    EXPECT_TRUE(s->Font.Barre);
+  }
+  EXPECT_EQ(CouleurNoms, QBColor(4));
+  // Cancelled: nothing changes.
+  AspectVisuelNoeudsPolice();
+  EXPECT_TRUE(Ima.Font.Barre);
+  EXPECT_EQ(CouleurNoms, QBColor(4));
+}
+
 }  // namespace
 }  // namespace orva
