@@ -324,7 +324,8 @@ void DialogueQt::AjouteControle(const std::string& nom, Controle* c) {
       });
       return;
     }
-    if (nom.rfind("Gauge", 0) == 0) {
+    // Gauges, and the panels that show a percentage done.
+    if (nom.rfind("Gauge", 0) == 0 || nom.rfind("Panel3D", 0) == 0) {
       auto* w = new QProgressBar(this);
       w->setObjectName(on);
       w->setTextVisible(false);

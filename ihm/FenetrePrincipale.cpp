@@ -162,6 +162,7 @@ void FenetrePrincipale::ConstruitBarreDOutils() {
     QAction* a = barre_->addAction(IconeBarreDOutils(n), Q(b.Caption));
     a->setObjectName(QString("BarreDOutils%1").arg(n));
     a->setToolTip(Q(b.Caption));
+    boutons_[n] = a;
     connect(a, &QAction::triggered, this, [this, n] {
       ExecuteProtege("BarreDOutils", [n] {
         auto& bouton = Orva.BarreDOutils[static_cast<std::size_t>(n)];
@@ -213,6 +214,7 @@ void FenetrePrincipale::Synchronise() {
     a->setChecked(m->Checked);
   }
   barre_->setVisible(Orva.BarreDOutilsVisible);
+  for (auto& [n, a] : boutons_) a->setEnabled(Orva.BarreDOutils[static_cast<std::size_t>(n)].Enabled);
   for (int i = 1; i <= 5; ++i) panneaux_[i]->setText(Q(Orva.StatusBar[static_cast<std::size_t>(i)]));
   progression_->setVisible(Orva.ProgressionVisible);
   progression_->setValue(static_cast<int>(Orva.PourcentProgression));

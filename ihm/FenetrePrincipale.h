@@ -76,6 +76,7 @@ class FenetrePrincipale : public QMainWindow {
   PanneauQt* panneaux_[6] = {};
   QProgressBar* progression_ = nullptr;
   QToolBar* barre_ = nullptr;
+  std::map<int, QAction*> boutons_;  // the tool bar's buttons by number
   ImageQt* image_ = nullptr;
   ImageQt* imageVec_ = nullptr;
   QScrollArea* cadre_ = nullptr;

@@ -150,7 +150,14 @@ void PortQt::Sablier(bool occupe) {
   else while (QApplication::overrideCursor()) QApplication::restoreOverrideCursor();
 }
 
-void PortQt::DoEvents() { QApplication::processEvents(); }
+void PortQt::DoEvents() {
+  // The window follows the state (the menus suspended, the picture so far) a few times a second.
+  if (!horloge_.isValid() || horloge_.elapsed() > 100) {
+    if (Repeint) Repeint("Orva");
+    horloge_.restart();
+  }
+  QApplication::processEvents();
+}
 
 void PortQt::Rafraichit(const std::string& controle) {
   // A dialog, or a picture of a dialog ("AspectVisuelNoeuds.Picture1"): the dialog follows its

@@ -1,5 +1,6 @@
 // The platform port on Qt widgets.
 #pragma once
+#include <QElapsedTimer>
 #include <QWidget>
 #include <functional>
 #include <set>
@@ -41,6 +42,7 @@ class PortQt : public Plateforme {
   std::set<std::string> charges_;  // dialogs whose Load has run
   std::set<std::string> modaux_;   // dialogs shown modally right now
   bool quitte_ = false;
+  QElapsedTimer horloge_;  // the last repaint of DoEvents
 };
 
 // Runs an action of the user under a handler, as the command's own would: a run-time error is

@@ -1,6 +1,7 @@
 // Run-time errors of a procedure: 16-bit overflow, index out of bounds, division by zero,
 // end of file... They travel as one exception up to the handler of the running command.
 #pragma once
+#include <cmath>
 #include <stdexcept>
 #include <string>
 
@@ -35,6 +36,18 @@ struct ErreurExecution : std::runtime_error {
 inline double Divise(double a, double b) {
   if (b == 0) Leve(ErrDivisionZero);
   return a / b;
+}
+
+// Square root and power as the platform computes them: the root of a negative number, or a
+// negative number raised to a power that is not whole, is the invalid-call error 5.
+inline double Racine(double v) {
+  if (v < 0) Leve(ErrAppelIncorrect);
+  return std::sqrt(v);
+}
+inline double ElevePuissance(double a, double b) {
+  if (a < 0 && b != std::floor(b)) Leve(ErrAppelIncorrect);
+  if (a == 0 && b < 0) Leve(ErrDivisionZero);
+  return std::pow(a, b);
 }
 
 }  // namespace orva

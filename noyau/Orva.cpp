@@ -89,6 +89,7 @@ const Entree kMenus[] = {
     {"menRelief", "menFichierRelief3d", "Prépare le &fichier relief 3d"},
     {"menRelief", "menCoûts", "Options des co&ûts..."},
     {"menRelief", "menCouleur", "Eclaircir la &couleur du relief..."},
+    {"menRelief", "menExporteGltf", "E&xporter le relief (glTF)..."},
     {"", "menAide", "&?"},
     {"menAide", "menAPropos", "&A propos de ORVA..."},
 };
@@ -140,7 +141,33 @@ void LieMenu(const std::string& nom, void (*commande)()) {
   EntreeMenu* m = Orva.Menu(nom);
   if (!m) return;
   m->Disponible = true;
-  m->Click = [nom, commande] { ExecuteCommande(nom, commande); };
+  // A disabled entry does nothing, whoever clicks it.
+  m->Click = [nom, commande] {
+    const EntreeMenu* e = Orva.Menu(nom);
+    if (e && !e->Enabled) return;
+    ExecuteCommande(nom, commande);
+  };
+}
+
+SuspensionDesCommandes::SuspensionDesCommandes() : avant_(CommandesSuspendues) {
+  for (const auto& [nom, controle] : Orva.Controles()) {
+    auto* m = dynamic_cast<EntreeMenu*>(controle);
+    if (!m || nom == "menSortie" || nom == "menAPropos" || !m->Parent.size()) continue;
+    menus_.emplace_back(nom, m->Enabled);
+    m->Enabled = false;
+  }
+  for (std::size_t i = 0; i < barre_.size(); ++i) {
+    barre_[i] = Orva.BarreDOutils[i].Enabled;
+    Orva.BarreDOutils[i].Enabled = false;
+  }
+  CommandesSuspendues = true;
+}
+
+SuspensionDesCommandes::~SuspensionDesCommandes() {
+  for (const auto& [nom, actif] : menus_)
+    if (EntreeMenu* m = Orva.Menu(nom)) m->Enabled = actif;
+  for (std::size_t i = 0; i < barre_.size(); ++i) Orva.BarreDOutils[i].Enabled = barre_[i];
+  CommandesSuspendues = avant_;
 }
 
 bool ExecuteMenu(const std::string& nom) {

@@ -4,6 +4,8 @@
 #include <array>
 #include <deque>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "noyau/Controles.h"
 
@@ -31,6 +33,24 @@ struct EtatPresentation : Dialogue {
 inline EtatPresentation Presentation;
 
 void EnregistreOrva();
+
+// While a long command yields to the window (the relief tracing, the exploration), the commands
+// that could change the network or the view, or start another long command, are suspended: every
+// menu entry but menSortie and menAPropos is disabled, and so are the tool bar and the zoom by
+// the mouse. The guard gives back the states it found, however the command ends.
+inline bool CommandesSuspendues = false;
+class SuspensionDesCommandes {
+ public:
+  SuspensionDesCommandes();
+  ~SuspensionDesCommandes();
+  SuspensionDesCommandes(const SuspensionDesCommandes&) = delete;
+  SuspensionDesCommandes& operator=(const SuspensionDesCommandes&) = delete;
+
+ private:
+  std::vector<std::pair<std::string, bool>> menus_;
+  std::array<bool, 8> barre_{};
+  bool avant_ = false;
+};
 
 // Binds a menu entry to its command, run under the command's handler; the entry is then available.
 void LieMenu(const std::string& nom, void (*commande)());

@@ -48,12 +48,17 @@ void EnregistreReglage(const std::string& nom, T& variable) {
 inline void EnregistreReglage(const std::string& nom, Reglage r) { Reglages()[nom] = std::move(r); }
 const Reglage* ChercheReglage(const std::string& nom);
 
-// A table reached as Nom(i).Champ or Nom(i): its bounds, and its fields by index.
+// A table reached as Nom(i).Champ or Nom(i), or Nom(i, j) for two dimensions: its bounds, and
+// its fields by index.
 struct TableNommee {
   std::function<long()> Bas;
   std::function<long()> Haut;
   std::map<std::string, std::function<Reglage(long)>> Champs;  // field -> value at index
   std::function<Reglage(long)> Element;                          // for tables of plain values
+  // Second dimension, for tables of two indices.
+  std::function<long()> Bas2;
+  std::function<long()> Haut2;
+  std::function<Reglage(long, long)> Element2;
 };
 std::map<std::string, TableNommee>& Tables();
 
@@ -79,6 +84,19 @@ void EnregistreTableValeurs(const std::string& nom, Tableau<T>& t) {
   TableNommee& e = EnregistreTable(nom, t);
   e.Element = [&t](long i) {
     return Reglage{[&t, i] { return EnTexte(t[i]); }, [&t, i](const std::string& s) { DeTexte(s, t[i]); }};
+  };
+}
+
+// Registers a table of two dimensions of plain values.
+template <class T>
+void EnregistreTable2(const std::string& nom, Tableau2<T>& t) {
+  TableNommee& e = Tables()[nom];
+  e.Bas = [&t] { return t.LBound(1); };
+  e.Haut = [&t] { return t.UBound(1); };
+  e.Bas2 = [&t] { return t.LBound(2); };
+  e.Haut2 = [&t] { return t.UBound(2); };
+  e.Element2 = [&t](long i, long j) {
+    return Reglage{[&t, i, j] { return EnTexte(t(i, j)); }, [&t, i, j](const std::string& s) { DeTexte(s, t(i, j)); }};
   };
 }
 

@@ -53,4 +53,35 @@ class Tableau {
   std::vector<T> v_;
 };
 
+// A table of two dimensions (b1..h1, b2..h2), the first index running fastest; every access
+// checked against the present bounds (error 9).
+template <class T>
+class Tableau2 {
+ public:
+  void ReDim(long bas1, long haut1, long bas2, long haut2) {
+    bas1_ = bas1, bas2_ = bas2;
+    n1_ = haut1 >= bas1 ? haut1 - bas1 + 1 : 0;
+    n2_ = haut2 >= bas2 ? haut2 - bas2 + 1 : 0;
+    v_.assign(static_cast<std::size_t>(n1_ * n2_), T{});
+  }
+  void Efface() { ReDim(0, -1, 0, -1); }
+  long LBound(int dimension) const { return dimension == 1 ? bas1_ : bas2_; }
+  long UBound(int dimension) const { return dimension == 1 ? bas1_ + n1_ - 1 : bas2_ + n2_ - 1; }
+  bool Contient(long i, long j) const {
+    return i >= bas1_ && i < bas1_ + n1_ && j >= bas2_ && j < bas2_ + n2_;
+  }
+  T& operator()(long i, long j) {
+    if (!Contient(i, j)) Leve(ErrIndice);
+    return v_[static_cast<std::size_t>((j - bas2_) * n1_ + (i - bas1_))];
+  }
+  const T& operator()(long i, long j) const {
+    if (!Contient(i, j)) Leve(ErrIndice);
+    return v_[static_cast<std::size_t>((j - bas2_) * n1_ + (i - bas1_))];
+  }
+
+ private:
+  long bas1_ = 0, bas2_ = 0, n1_ = 0, n2_ = 0;
+  std::vector<T> v_;
+};
+
 }  // namespace orva

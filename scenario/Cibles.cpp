@@ -2,6 +2,7 @@
 
 #include <map>
 
+#include "dessin/Apercu.h"
 #include "graphe/Modes.h"
 #include "noyau/Chaines.h"
 #include "noyau/Orva.h"
@@ -230,6 +231,7 @@ std::string ValeurControle(const Controle& c) {
   if (auto* l = dynamic_cast<const Liste*>(&c)) return l->TexteSelection();
   if (auto* u = dynamic_cast<const Curseur*>(&c)) return EnTexte(u->Value);
   if (auto* m = dynamic_cast<const EntreeMenu*>(&c)) return EnTexte(m->Checked);
+  if (auto* a = dynamic_cast<const Apercu*>(&c); a && a->Couleur) return EnTexte(*a->Couleur);
   return c.Caption;
 }
 
@@ -271,6 +273,19 @@ Resolution Resous(const Chemin& c) {
       return Valeur(*champ);
     }
     auto t = Tables().find(s.Nom);
+    if (t != Tables().end() && t->second.Element2) {
+      // A table of two dimensions: Sommets(1, 7).
+      if (s.Arguments.size() != 2 || c.size() != 1) return Inconnue("deux indices attendus");
+      long i = 0, j = 0;
+      Resolution r = Indice(s.Arguments[0], i);
+      if (r.Issue != Resolution::Trouvee) return r;
+      r = Indice(s.Arguments[1], j);
+      if (r.Issue != Resolution::Trouvee) return r;
+      const TableNommee& table = t->second;
+      if (i < table.Bas() || i > table.Haut() || j < table.Bas2() || j > table.Haut2())
+        return HorsLimites("indice hors limites");
+      return Valeur(table.Element2(i, j));
+    }
     if (t != Tables().end()) {
       if (s.Arguments.size() != 1) return Inconnue("un seul indice attendu");
       long k = 0;

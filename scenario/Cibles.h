@@ -35,7 +35,8 @@ struct Resolution {
 Resolution Resous(const Chemin& chemin);
 
 // The value of a control as affiche prints it: a check box its Value, an option -1/0, a text box
-// its text, a list or combo the text of its selected row, a menu entry its tick, others their caption.
+// its text, a list or combo the text of its selected row, a menu entry its tick, a colour box its
+// colour, others their caption.
 std::string ValeurControle(const Controle& c);
 // Number of elements of a control array: from 0 or from 1 up to the first missing index.
 long NombreElements(const Dialogue& d, const std::string& tableau);

@@ -25,6 +25,7 @@ void ImaMouseMove(int, int, double x, double y) {
 }
 
 void ImaMouseUp(int bouton, int maj, double x, double y) {
+  if (CommandesSuspendues) return;
   EntreeMenu* zoom = Orva.Menu("menZoomSouris");
   if (!zoom || !zoom->Checked) return;
   // A press and release closer than 50 (sum of the two distances) is a click, not a drag.
@@ -75,7 +76,10 @@ void EnregistreSouris() {
   for (int n : {1, 2, 4, 5, 6, 7}) {
     Bouton& b = Orva.BarreDOutils[static_cast<std::size_t>(n)];
     b.Caption = bulles[n];
-    b.Click = [n] { ExecuteCommande("BarreDOutils", [n] { BarreDOutilsClic(n); }); };
+    b.Click = [n] {
+      if (!Orva.BarreDOutils[static_cast<std::size_t>(n)].Enabled) return;
+      ExecuteCommande("BarreDOutils", [n] { BarreDOutilsClic(n); });
+    };
   }
   EnregistreReglage("PointeurIma", PointeurIma);
 }
