@@ -7,6 +7,7 @@ paquets=(
   cmake make g++ pkg-config
   qt6-base-dev qt6-base-dev-tools libgl-dev
   libgtest-dev libgmock-dev googletest libbenchmark-dev
+  libtinygltf-dev
   qt6-translations-l10n
   fonts-liberation2 locales
   xvfb xauth

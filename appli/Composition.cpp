@@ -12,7 +12,15 @@
 #include "noyau/Def.h"
 #include "noyau/Orva.h"
 #include "noyau/Registre.h"
+#include "relief/ArcsMinimaux.h"
+#include "relief/Couts.h"
+#include "relief/ExportGltf.h"
+#include "relief/Facettes.h"
 #include "relief/OptionsRelief.h"
+#include "relief/TraceRelief.h"
+#include "relief/Valuation.h"
+#include "valeurs/Statistiques.h"
+#include "valeurs/Valeurs.h"
 #include "vue/Angles.h"
 #include "vue/AspectVisuelArcs.h"
 #include "vue/AspectVisuelArcsAttr.h"
@@ -43,6 +51,7 @@ struct Liaison {
 const Liaison kLiaisons[] = {
     {"menFichierVilles", menFichierVilles},
     {"menFichierOriginesDestinations", menFichierOriginesDestinations},
+    {"menLectFichFacettes", menLectFichFacettes},
     {"menFichiersGraphe", menFichiersGraphe},
     {"menSortie", menSortie},
     {"menAngles", menAngles},
@@ -61,6 +70,16 @@ const Liaison kLiaisons[] = {
     {"menCouleursNoeuds", menCouleursNoeuds},
     {"menArcsTrajets", menArcsTrajets},
     {"menArcsAttractions", menArcsAttractions},
+    {"menTraceRelief", menTraceRelief},
+    {"menOptionsRelief", menOptionsRelief},
+    {"menValuationTemps", menValuationTemps},
+    {"menValuationCoût", menValuationCout},
+    {"menValuationODVal", menValuationODVal},
+    {"menPasDeValuation", menPasDeValuation},
+    {"menFichierRelief3d", menFichierRelief3d},
+    {"menCoûts", menCouts},
+    {"menCouleur", menCouleur},
+    {"menExporteGltf", menExporteGltf},
     {"menAPropos", menAPropos},
 };
 
@@ -83,6 +102,15 @@ void EnregistreTout() {
   EnregistreDessin();
   EnregistreVueNoeuds();
   EnregistreVueArcs();
+  EnregistreValeurs();
+  EnregistreStatistiques();
+  EnregistreArcsMinimaux();
+  EnregistreCouts();
+  EnregistreValuation();
+  EnregistreTraceRelief();
+  EnregistreFacettes();
+  // The lift of the arc layer is the relief's valuation.
+  ValuationDesArcs = HauteurArc;
   for (const Liaison& l : kLiaisons) LieMenu(l.menu, l.commande);
 }
 
@@ -101,6 +129,15 @@ void EnregistreRoutines() {
   r.emplace("TrieNoeudsProfondeur", [] { TrieNoeudsProfondeur(); });
   r.emplace("RempliListesNoeuds", [] { RempliListesNoeuds(); });
   r.emplace("InitialiseOrva", [] { InitialiseOrva(); });
+  r.emplace("SelectionneArcsMinimaux", [] { SelectionneArcsMinimaux(); });
+  r.emplace("TraceRelief15", [] { TraceRelief15(); });
+  r.emplace("ChargeArcValSurArcs", [] { ChargeArcValSurArcs(); });
+  r.emplace("TrieFacettes", [] { TrieFacettes(); });
+  r.emplace("RetraceFacettes", [] { RetraceFacettes(); });
+  r.emplace("ImplementeObjetsFacettes", [] { ImplementeObjetsFacettes(); });
+  r.emplace("CalculeCoutsFrance", [] { CalculeCoutsFrance(); });
+  r.emplace("CalculeCoutsAllemagne", [] { CalculeCoutsAllemagne(); });
+  r.emplace("CalculeCoutsEspagne", [] { CalculeCoutsEspagne(); });
 }
 
 }  // namespace orva

@@ -13,6 +13,9 @@
 #include "noyau/Orva.h"
 #include "noyau/Plateforme.h"
 #include "noyau/Progression.h"
+#include "relief/Couts.h"
+#include "relief/OptionsRelief.h"
+#include "valeurs/Statistiques.h"
 #include "vue/CoucheNoeuds.h"
 #include "vue/Projection.h"
 
@@ -244,6 +247,9 @@ void InitialiseOrva() {
   Etape([] { DefinitModesNoeuds(); });
   Etape([] { TraceLesNoeuds(true, false); });
   // 18. Presets of the dialogs, then the preset views.
+  Etape([] { PrepareOptionsRelief(); });
+  Etape([] { PrepareCouts(); });
+  Etape([] { PrepareCouleursClasses(); });
   Etape([] {
     Espaces.ReDim(1, 10);
     for (long i = 1; i <= 10; ++i) {

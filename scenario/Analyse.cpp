@@ -408,6 +408,12 @@ Instruction AnalyseLigne(std::string_view ligne) {
     ins.Expression = std::string(reste);
     return ins;
   }
+  if (motCle == "gltf") {
+    if (reste.empty()) return Incomprise(std::move(ins), "forme attendue : gltf FICHIER.glb");
+    ins.Genre = GenreLigne::Gltf;
+    ins.Expression = std::string(reste);
+    return ins;
+  }
   if (motCle == "metafichier" || motCle == "métafichier") {
     // The file may hold blanks: the two figures are the last two words.
     auto mots = Mots(reste);

@@ -47,6 +47,7 @@ enum class GenreLigne {
   Affiche,         // affiche EXPR
   Image,           // image FICHIER
   Metafichier,     // metafichier FICHIER L H
+  Gltf,            // gltf FICHIER.glb
   Clic,            // menXxx, Dialogue.Controle, Routine
   Affecte,         // Dialogue.Controle = valeur
   AjouteSelection, // Dialogue.Liste += #n

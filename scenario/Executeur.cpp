@@ -138,7 +138,8 @@ void Executeur::ExecuteLigne(const Ligne& l) {
       case GenreLigne::Pose: Pose(l, ins); return;
       case GenreLigne::Affiche: Affiche(l, ins); return;
       case GenreLigne::Image:
-      case GenreLigne::Metafichier: Image(l, ins); return;
+      case GenreLigne::Metafichier:
+      case GenreLigne::Gltf: Image(l, ins); return;
       case GenreLigne::Clic:
       case GenreLigne::Affecte:
       case GenreLigne::AjouteSelection:
@@ -198,13 +199,15 @@ void Executeur::Pose(const Ligne& l, const Instruction& ins) {
 
 void Executeur::Image(const Ligne& l, const Instruction& ins) {
   const std::string fichier = port_.Absolu(ins.Expression);
-  const bool image = ins.Genre == GenreLigne::Image;
-  const char* mot = image ? "image" : "metafichier";
-  if (image ? !CrochetImage : !CrochetMetafichier) {
+  const bool image = ins.Genre == GenreLigne::Image, gltf = ins.Genre == GenreLigne::Gltf;
+  const char* mot = image ? "image" : gltf ? "gltf" : "metafichier";
+  if (image ? !CrochetImage : gltf ? !CrochetGltf : !CrochetMetafichier) {
     evenements_.Erreur(l.Numero, std::string(mot) + " : pas encore disponible");
     return;
   }
-  const bool ecrit = image ? CrochetImage(fichier) : CrochetMetafichier(fichier, ins.Nombres[0], ins.Nombres[1]);
+  const bool ecrit = image  ? CrochetImage(fichier)
+                     : gltf ? CrochetGltf(fichier)
+                            : CrochetMetafichier(fichier, ins.Nombres[0], ins.Nombres[1]);
   if (!ecrit) evenements_.Erreur(l.Numero, std::string(mot) + " : écriture impossible : " + ins.Expression);
 }
 

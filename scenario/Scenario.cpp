@@ -6,6 +6,7 @@
 
 #include "image/ExportImage.h"
 #include "noyau/Fichiers.h"
+#include "relief/ExportGltf.h"
 #include "scenario/Executeur.h"
 #include "vue/Souris.h"
 
@@ -16,6 +17,7 @@ void InstalleCrochetsParDefaut() {
   if (!CrochetSourisDeplacee) CrochetSourisDeplacee = ImaMouseMove;
   if (!CrochetSourisRelachee) CrochetSourisRelachee = ImaMouseUp;
   if (!CrochetImage) CrochetImage = EcritImageFichier;
+  if (!CrochetGltf) CrochetGltf = EcritReliefGltf;
   if (!CrochetMetafichier)
     CrochetMetafichier = [](const std::string& fichier, long largeur, long hauteur) {
       return EcritMetaFichierScenario(fichier, static_cast<int>(largeur), static_cast<int>(hauteur));

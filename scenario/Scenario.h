@@ -20,6 +20,8 @@ int ExecuteScenario(std::istream& scenario, std::ostream& sortie, const std::str
 inline std::function<bool(const std::string& fichier)> CrochetImage;
 // `metafichier FICHIER L H`: writes the present MetaFichier as a placeable metafile of extent L x H.
 inline std::function<bool(const std::string& fichier, long largeur, long hauteur)> CrochetMetafichier;
+// `gltf FICHIER.glb`: writes the vertices and facets of the last tracing as binary glTF.
+inline std::function<bool(const std::string& fichier)> CrochetGltf;
 // Mouse on Ima: button (1 left, 2 right, 4 middle, 0 none), shift state (2 for Ctrl), pixel x, y.
 using GestionSouris = std::function<void(int bouton, int maj, double x, double y)>;
 inline GestionSouris CrochetSourisEnfoncee;

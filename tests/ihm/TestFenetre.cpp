@@ -192,6 +192,7 @@ const EntreeAttendue kMenus[] = {
     {"menRelief", "menFichierRelief3d", "Prépare le &fichier relief 3d"},
     {"menRelief", "menCoûts", "Options des co&ûts..."},
     {"menRelief", "menCouleur", "Eclaircir la &couleur du relief..."},
+    {"menRelief", "menExporteGltf", "E&xporter le relief (glTF)..."},
     {"", "menAide", nullptr},
     {"menAide", "menAPropos", "&A propos de ORVA..."},
 };
