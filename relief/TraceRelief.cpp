@@ -543,9 +543,6 @@ void TraceRelief(int, int32_t, long premier, long dernier, const Mode&) {
     }
     // 4.
     TrianglesVus.ReDim(0, kLignesTriangles, 0, 4);
-    ArcsNoeud.ReDim(1, kMaxArcsNoeud);
-    OrdreArcsNoeud.ReDim(1, kMaxArcsNoeud);
-    AnglesArcsNoeud.ReDim(1, kMaxArcsNoeud);
     const IndexMinimaux index;
     Index = &index;
     AfficheProgression(dernier, 0, kTexteTrace);
@@ -678,9 +675,10 @@ void menCouleur() {
 }
 
 void EnregistreTraceRelief() {
-  ArcsNoeud = {};
-  OrdreArcsNoeud = {};
-  AnglesArcsNoeud = {};
+  // The work tables of the node in hand have their fixed size.
+  ArcsNoeud.ReDim(1, kMaxArcsNoeud);
+  OrdreArcsNoeud.ReDim(1, kMaxArcsNoeud);
+  AnglesArcsNoeud.ReDim(1, kMaxArcsNoeud);
   Sommets.Efface();
   NbSommets = 0;
   Facettes = {};

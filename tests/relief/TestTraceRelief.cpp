@@ -248,6 +248,34 @@ TEST_F(Trace, ImageVectorielleRepeintParProfondeur) {
   Orva.Menu("menImageVectorielle")->Checked = false;
 }
 
+// A node alone with an arc to itself, negative times, a mode of speed 0: no crash; a domain error
+// ends the tracing with its message, and the next tracing works.
+TEST_F(Trace, EntreesAbimees) {
+  const long a = Noeud_(100, 100);
+  Arc_(a, a, "Route70");
+  EXPECT_EQ(ListeArcsNoeud(a), 1);  // appended once
+  Trace_();
+  EXPECT_EQ(Polygones(), 0);
+  const long b = Noeud_(200, 100), c = Noeud_(150, 200);
+  Arc_(a, b, "Route70", 100, -30);
+  Arc_(a, c, "Route70", 100, -30);
+  Inclinaison = 0.5;
+  ValuationRelief = "BaséSurArcVal";  // a negative time to the power 0.3
+  Trace_();
+  ASSERT_EQ(port.boites.size(), 1u);
+  EXPECT_EQ(port.boites[0].texte, "Erreur dans le traçage du relief !!");
+  ValuationRelief = "Temps";
+  ModeNomme("Route70")->Vitesse = 0;
+  Trace_();
+  EXPECT_EQ(port.boites.size(), 2u);
+  ModeNomme("Route70")->Vitesse = 70;
+  journal.Efface();
+  Trace_();
+  EXPECT_EQ(port.boites.size(), 2u);
+  // Two node triangles, and a flat peak triangle of the arc to itself with the arc beside it.
+  EXPECT_EQ(Polygones(), 3);
+}
+
 TEST_F(Trace, FichiersDeFacettes) {
   const long a = Noeud_(0, 0), b = Noeud_(1, 1);
   Noeuds[b].Code = Noeuds[a].Code;  // two nodes of one code: the first is taken
