@@ -1,5 +1,6 @@
 #include "appli/Composition.h"
 
+#include "anamorphose/Anamorphose.h"
 #include "anamorphose/FrmAnamorphose.h"
 #include "appli/Demarrage.h"
 #include "dessin/Dessin.h"
@@ -71,6 +72,7 @@ const Liaison kLiaisons[] = {
     {"menArcsTrajets", menArcsTrajets},
     {"menArcsAttractions", menArcsAttractions},
     {"menTraceRelief", menTraceRelief},
+    {"menAnamorphose", menAnamorphose},
     {"menOptionsRelief", menOptionsRelief},
     {"menValuationTemps", menValuationTemps},
     {"menValuationCoût", menValuationCout},
@@ -109,6 +111,7 @@ void EnregistreTout() {
   EnregistreValuation();
   EnregistreTraceRelief();
   EnregistreFacettes();
+  EnregistreAnamorphose();
   // The lift of the arc layer is the relief's valuation.
   ValuationDesArcs = HauteurArc;
   for (const Liaison& l : kLiaisons) LieMenu(l.menu, l.commande);
@@ -131,6 +134,9 @@ void EnregistreRoutines() {
   r.emplace("InitialiseOrva", [] { InitialiseOrva(); });
   r.emplace("SelectionneArcsMinimaux", [] { SelectionneArcsMinimaux(); });
   r.emplace("TraceRelief15", [] { TraceRelief15(); });
+  r.emplace("CalculeAnamorphose", [] { CalculeAnamorphose(); });
+  r.emplace("TrieArcsParVitesse", [] { TrieArcsParVitesse(); });
+  r.emplace("SelectionneArcsAnamorphose", [] { SelectionneArcsAnamorphose(); });
   r.emplace("ChargeArcValSurArcs", [] { ChargeArcValSurArcs(); });
   r.emplace("TrieFacettes", [] { TrieFacettes(); });
   r.emplace("RetraceFacettes", [] { RetraceFacettes(); });

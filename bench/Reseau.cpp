@@ -33,6 +33,7 @@ void ChargeGrandReseau() {
   DecalageY = 1100;
   NoeudCentre = "PARIS";
   ValuationRelief = "Temps";
+  RepertoireRacine = DossierGrandReseau();
   ChargeNoeudsLong(DossierGrandReseau() + "/n6000.dat");
   ChargeArcsLong(DossierGrandReseau() + "/a99999.dat");
   ImplementeIndicesArcs();
