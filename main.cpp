@@ -40,7 +40,7 @@ int main(int argc, char** argv) {
   QTranslator traduction;
   if (traduction.load(QLocale(QLocale::French), "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
     QApplication::installTranslator(&traduction);
-  orva::EnregistreTout();
+  orva::ReinitialiseTout();
   if (!racine.empty()) {
     std::error_code ec;
     const auto absolu = std::filesystem::absolute(racine, ec);

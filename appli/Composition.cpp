@@ -20,8 +20,10 @@
 #include "relief/OptionsRelief.h"
 #include "relief/TraceRelief.h"
 #include "relief/Valuation.h"
+#include "valeurs/CouchesArcVal.h"
+#include "valeurs/FichiersValeurs.h"
+#include "valeurs/Ronds.h"
 #include "valeurs/Statistiques.h"
-#include "valeurs/Valeurs.h"
 #include "vue/Angles.h"
 #include "vue/AspectVisuelArcs.h"
 #include "vue/AspectVisuelArcsAttr.h"
@@ -67,6 +69,28 @@ const Liaison kLiaisons[] = {
     {"menAfficheNomsVilles", menAfficheNomsVilles},
     {"menOptionsAffichageVilles", menOptionsAffichageVilles},
     {"menOptionsAffichageNoms", menOptionsAffichageNoms},
+    {"menFichierODVal1", menFichierODVal1},
+    {"menFichierODVal2", menFichierODVal2},
+    {"menFichierCodeValeur1", menFichierCodeValeur1},
+    {"menFichierCodeValeur2", menFichierCodeValeur2},
+    {"menCodeValEnZ", menCodeValEnZ},
+    {"menStatistiques", menStatistiques},
+    {"menAfficheValeur1", menAfficheValeur1},
+    {"menAfficheValeur2", menAfficheValeur2},
+    {"menMultiplication", menMultiplication},
+    {"menAfficheDiffAbsolues", menAfficheDiffAbsolues},
+    {"menAfficheDiffRelatives", menAfficheDiffRelatives},
+    {"menAffichePopulations", menAffichePopulations},
+    {"menAfficheAutoAttractions", menAfficheAutoAttractions},
+    {"menAfficheAttractions", menAfficheAttractions},
+    {"menAfficheProbabilités", menAfficheProbabilites},
+    {"menAfficheFlux", menAfficheFlux},
+    {"menAfficheFluxNonOrientes", menAfficheFluxNonOrientes},
+    {"menAfficheSurfacesFlux", menAfficheSurfacesFlux},
+    {"menClassesArcs", menClassesArcs},
+    {"menFluxNonOrientésEtModes", menFluxNonOrientesEtModes},
+    {"menEchelleBlindéeArcs", menEchelleBlindeeArcs},
+    {"menOptionsAttractions", menOptionsAttractions},
     {"menTraceTrajets", menTraceTrajets},
     {"menCouleursNoeuds", menCouleursNoeuds},
     {"menArcsTrajets", menArcsTrajets},
@@ -104,8 +128,10 @@ void EnregistreTout() {
   EnregistreDessin();
   EnregistreVueNoeuds();
   EnregistreVueArcs();
-  EnregistreValeurs();
   EnregistreStatistiques();
+  EnregistreFichiersValeurs();
+  EnregistreRonds();
+  EnregistreCouchesArcVal();
   EnregistreArcsMinimaux();
   EnregistreCouts();
   EnregistreValuation();

@@ -9,6 +9,8 @@
 #   # racine: <path in the source tree>   the data root, copied to TRAVAIL/NOM/racine first so
 #                                         that nothing writes into the source tree; without it
 #                                         the root is a fresh empty folder TRAVAIL/NOM/racine
+#   # donnees: <path in the source tree>  a data folder copied as the root's data/ (the bundled
+#                                         standard network: `# donnees: data`)
 #   # statut: <n>                         the expected exit status (0 by default)
 # Paths of the run are machine-dependent: in the output, the root's path becomes <racine> and
 # the work folder's path <depart> before the comparison.
@@ -25,6 +27,7 @@ set(attendu "${base}.attendu")
 
 # The settings in the comment lines at the head.
 set(racine_source "")
+set(donnees_source "")
 set(statut_attendu 0)
 file(STRINGS "${SCRIPT}" lignes ENCODING UTF-8)
 foreach(ligne IN LISTS lignes)
@@ -37,6 +40,8 @@ foreach(ligne IN LISTS lignes)
   endif()
   if(ligne MATCHES "^#[ \t]*racine[ \t]*:[ \t]*(.+)$")
     string(STRIP "${CMAKE_MATCH_1}" racine_source)
+  elseif(ligne MATCHES "^#[ \t]*donnees[ \t]*:[ \t]*(.+)$")
+    string(STRIP "${CMAKE_MATCH_1}" donnees_source)
   elseif(ligne MATCHES "^#[ \t]*statut[ \t]*:[ \t]*([0-9]+)[ \t]*$")
     set(statut_attendu "${CMAKE_MATCH_1}")
   endif()
@@ -50,6 +55,13 @@ if(racine_source)
     message(FATAL_ERROR "racine introuvable : ${SOURCE}/${racine_source}")
   endif()
   file(COPY "${SOURCE}/${racine_source}/" DESTINATION "${depart}/racine")
+endif()
+if(donnees_source)
+  if(NOT IS_DIRECTORY "${SOURCE}/${donnees_source}")
+    message(FATAL_ERROR "données introuvables : ${SOURCE}/${donnees_source}")
+  endif()
+  file(COPY "${SOURCE}/${donnees_source}/" DESTINATION "${depart}/racine/data"
+       PATTERN "sources" EXCLUDE PATTERN "README.md" EXCLUDE)
 endif()
 file(REAL_PATH "${depart}" depart)
 set(racine "${depart}/racine")

@@ -1,5 +1,9 @@
 #include "ihm/DialogueQt.h"
 
+#include <QBarSeries>
+#include <QBarSet>
+#include <QChart>
+#include <QChartView>
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
@@ -17,7 +21,9 @@
 #include <QRadioButton>
 #include <QRegularExpressionValidator>
 #include <QSpinBox>
+#include <QTabWidget>
 #include <QToolButton>
+#include <QValueAxis>
 #include <QVBoxLayout>
 #include <set>
 
@@ -47,6 +53,7 @@ const std::map<std::string, std::string>& Libelles() {
       {"AspectVisuelArcs.Combo1", "Couleur :"},
       {"AspectVisuelArcs.Text3", "Numéro de la couleur :"},
       {"TraceArcs.Option3DMode", "Modes du graphe"},
+      {"Statistiques.Borne", "Bornes des classes :"},
   };
   return m;
 }
@@ -103,6 +110,64 @@ QChar ToucheDe(const QString& texte) {
   return texte[i + 1].toLower();
 }
 
+QColor CouleurDe(int32_t c) { return QColor(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF); }
+
+// A double click on a text box runs its command (a file name that opens its chooser).
+class FiltreDoubleClic : public QObject {
+ public:
+  FiltreDoubleClic(QObject* parent, std::function<void()> f) : QObject(parent), f_(std::move(f)) {}
+  bool eventFilter(QObject* o, QEvent* e) override {
+    if (e->type() == QEvent::MouseButtonDblClick) {
+      f_();
+      return true;
+    }
+    return QObject::eventFilter(o, e);
+  }
+
+ private:
+  std::function<void()> f_;
+};
+
+// The bar graph of a state: one bar a value, in its colour, counts on the left axis.
+QChartView* NouveauGraphique(QWidget* parent) {
+  auto* chart = new QChart;
+  chart->legend()->hide();
+  chart->setMargins(QMargins(2, 2, 2, 2));
+  chart->setBackgroundRoundness(0);
+  auto* vue = new QChartView(chart, parent);
+  vue->setRenderHint(QPainter::Antialiasing);
+  vue->setMinimumSize(320, 180);
+  return vue;
+}
+
+void RempliGraphique(QChartView* vue, const Graphique& g) {
+  QChart* chart = vue->chart();
+  chart->removeAllSeries();
+  for (QAbstractAxis* a : chart->axes()) {
+    chart->removeAxis(a);
+    delete a;
+  }
+  auto* serie = new QBarSeries;
+  serie->setBarWidth(0.9);
+  double haut = 0;
+  for (std::size_t i = 0; i < g.Valeurs.size(); ++i) {
+    auto* barre = new QBarSet(QString::number(i + 1));
+    *barre << g.Valeurs[i];
+    const int32_t c = i < g.Couleurs.size() ? g.Couleurs[i] : 0;
+    barre->setColor(CouleurDe(c));
+    barre->setBorderColor(Qt::black);
+    serie->append(barre);
+    haut = std::max(haut, g.Valeurs[i]);
+  }
+  chart->addSeries(serie);
+  auto* y = new QValueAxis;
+  y->setRange(0, haut > 0 ? haut * 1.1 : 1);
+  y->setLabelFormat("%d");
+  y->setTickCount(5);
+  chart->addAxis(y, Qt::AlignLeft);
+  serie->attachAxis(y);
+}
+
 // The bitmap of a surface, or a swatch of a colour 0x00BBGGRR.
 QPixmap PixmapDe(const Apercu& a) {
   if (a.Surface) {
@@ -113,8 +178,7 @@ QPixmap PixmapDe(const Apercu& a) {
     return p;
   }
   QPixmap p(48, 22);
-  const int32_t c = a.Couleur ? *a.Couleur : 0;
-  p.fill(QColor(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF));
+  p.fill(CouleurDe(a.Couleur ? *a.Couleur : 0));
   return p;
 }
 
@@ -149,7 +213,26 @@ void DialogueQt::FinDeLigne() {
   rangeeBoutons_ = nullptr;
 }
 
+void DialogueQt::ChoisitGrille(int onglet) {
+  QGridLayout* voulue = onglet >= 0 && onglet < static_cast<int>(pages_.size()) ? pages_[static_cast<std::size_t>(onglet)]
+                                                                               : grillePrincipale_;
+  if (voulue == grille_) return;
+  FinDeLigne();
+  lignes_[grille_] = ligne_;
+  grille_ = voulue;
+  ligne_ = lignes_[grille_];
+}
+
 void DialogueQt::AjouteControle(const std::string& nom, Controle* c) {
+  // A label that titles a control array is shown as the title of its frame.
+  if (etat_.EstTitre(c)) return;
+  ChoisitGrille(c->Onglet);
+  AjouteWidget(nom, c);
+  if (!c->Bulle.empty())
+    for (QWidget* w : findChildren<QWidget*>(Q(nom))) w->setToolTip(Q(c->Bulle));
+}
+
+void DialogueQt::AjouteWidget(const std::string& nom, Controle* c) {
   const QString on = Q(nom);
   const std::string libelle = c->Caption.empty() ? LibelleDe(etat_.Nom, nom) : c->Caption;
   // A row of the grid: a label, and a line of widgets that later controls may join.
@@ -218,6 +301,13 @@ void DialogueQt::AjouteControle(const std::string& nom, Controle* c) {
       new QGridLayout(g);
       grille_->addWidget(g, ligne_++, 0, 1, 2);
       it = groupes_.emplace(o->Groupe, g).first;
+      // The frame is hidden with the last of its options.
+      synchros_.push_back([this, g, groupe = o->Groupe] {
+        bool visible = false;
+        for (auto& [n2, c2] : etat_.Controles())
+          if (auto* o2 = dynamic_cast<BoutonOption*>(c2); o2 && o2->Groupe == groupe && o2->Visible) visible = true;
+        g->setVisible(visible);
+      });
     }
     auto* cadre = static_cast<QGridLayout*>(it->second->layout());
     int dansGroupe = 0, total = 0;
@@ -258,6 +348,8 @@ void DialogueQt::AjouteControle(const std::string& nom, Controle* c) {
         if (t->Change) t->Change();
       });
     });
+    if (t->DblClick)
+      w->installEventFilter(new FiltreDoubleClic(w, [this, t] { Action(t->DblClick); }));
     QLabel* l = nullptr;
     if (masque && suite_) {
       // The mask field stands beside its twin text box, its caption as the unit.
@@ -470,6 +562,48 @@ void DialogueQt::AjouteControle(const std::string& nom, Controle* c) {
     });
     return;
   }
+  if (auto* g = dynamic_cast<Onglets*>(c)) {
+    FinDeLigne();
+    auto* w = new QTabWidget(this);
+    w->setObjectName(on);
+    for (const std::string& p : g->Pages) {
+      auto* page = new QWidget(w);
+      auto* grille = new QGridLayout(page);
+      grille->setColumnStretch(1, 1);
+      pages_.push_back(grille);
+      w->addTab(page, Q(p));
+    }
+    connect(w, &QTabWidget::currentChanged, this, [this, g](int i) {
+      Action([g, i] {
+        g->Tab = i;
+        if (g->Click) g->Click();
+      });
+    });
+    colonneOnglets_->addWidget(w);
+    synchros_.push_back([w, g] {
+      if (g->Tab >= 0 && g->Tab < w->count()) w->setCurrentIndex(g->Tab);
+      w->setVisible(g->Visible);
+    });
+    return;
+  }
+  if (auto* g = dynamic_cast<Graphique*>(c)) {
+    FinDeLigne();
+    auto* w = NouveauGraphique(this);
+    w->setObjectName(on);
+    auto* l = new QLabel(Q(libelle), this);
+    grille_->addWidget(l, ligne_++, 0, 1, 2);
+    grille_->addWidget(w, ligne_++, 0, 1, 2);
+    auto montres = std::make_shared<std::pair<std::vector<double>, std::vector<int32_t>>>();
+    synchros_.push_back([w, l, g, montres] {
+      if (montres->first != g->Valeurs || montres->second != g->Couleurs) {
+        *montres = {g->Valeurs, g->Couleurs};
+        RempliGraphique(w, *g);
+      }
+      w->setVisible(g->Visible);
+      l->setVisible(g->Visible);
+    });
+    return;
+  }
   if (dynamic_cast<Etiquette*>(c)) {
     FinDeLigne();
     auto* w = new QLabel(Q(libelle), this);
@@ -485,12 +619,19 @@ void DialogueQt::AjouteControle(const std::string& nom, Controle* c) {
 
 void DialogueQt::ConstruitTableau(const std::string& t, QBoxLayout* cadre) {
   // Rows made by the program (one option per present mode): rebuilt when their captions change,
-  // their values followed at every synchronisation.
-  auto* boite = new QGroupBox(Q(LibelleDe(etat_.Nom, t)), this);
-  boite->setObjectName(Q("Cadre" + t));
+  // their values followed at every synchronisation. Text boxes and colour swatches stand in one
+  // column, options and buttons in three when there are many.
+  const Controle* titre = etat_.TitreDe(t);
+  auto* boite = new QGroupBox(Q(titre ? titre->Caption : LibelleDe(etat_.Nom, t)), this);
+  // The frame takes the name of the label that titles it, if any.
+  std::string nomCadre = "Cadre" + t;
+  for (auto& [n, c] : etat_.Controles())
+    if (c == titre) nomCadre = n;
+  boite->setObjectName(Q(nomCadre));
   auto* grille = new QGridLayout(boite);
-  cadre->addWidget(boite);
-  synchros_.push_back([this, t, boite, grille] {
+  cadre->addWidget(boite, 0, Qt::AlignTop);
+  synchros_.push_back([this, t, boite, grille, titre] {
+    if (titre) boite->setTitle(Q(titre->Caption));
     std::vector<std::string> captions;
     for (int i = 1; i < 100000; ++i) {
       Controle* c = etat_.Cherche(t, i);
@@ -504,11 +645,13 @@ void DialogueQt::ConstruitTableau(const std::string& t, QBoxLayout* cadre) {
         delete it->widget();
         delete it;
       }
-      const int colonnes = captions.size() > 8 ? 3 : 1;
+      const bool enColonne = !captions.empty() && (dynamic_cast<ZoneTexte*>(etat_.Cherche(t, 1)) ||
+                                                   dynamic_cast<Apercu*>(etat_.Cherche(t, 1)));
+      const int colonnes = !enColonne && captions.size() > 8 ? 3 : 1;
       for (int i = 1; i <= static_cast<int>(captions.size()); ++i) {
         Controle* c = etat_.Cherche(t, i);
         const QString nom = Q(t) + QString("(%1)").arg(i);
-        QAbstractButton* w = nullptr;
+        QWidget* w = nullptr;
         if (auto* k = dynamic_cast<CaseACocher*>(c)) {
           auto* x = new QCheckBox(Q(k->Caption), boite);
           connect(x, &QCheckBox::clicked, this, [this, t, i](bool v) {
@@ -534,6 +677,28 @@ void DialogueQt::ConstruitTableau(const std::string& t, QBoxLayout* cadre) {
             });
           });
           w = x;
+        } else if (dynamic_cast<ZoneTexte*>(c)) {
+          auto* x = new QLineEdit(boite);
+          x->setMinimumWidth(150);
+          connect(x, &QLineEdit::textEdited, this, [this, t, i](const QString& v) {
+            Action([this, t, i, v] {
+              if (auto* z = dynamic_cast<ZoneTexte*>(etat_.Cherche(t, i))) {
+                z->Text = v.toStdString();
+                if (z->Change) z->Change();
+              }
+            });
+          });
+          grille->addWidget(new QLabel(QString::number(i), boite), i - 1, 0);
+          w = x;
+        } else if (dynamic_cast<Apercu*>(c)) {
+          auto* x = new QToolButton(boite);
+          x->setIconSize(QSize(48, 18));
+          connect(x, &QToolButton::clicked, this, [this, t, i] {
+            Action([this, t, i] {
+              if (Controle* cc = etat_.Cherche(t, i); cc && cc->Click) cc->Click();
+            });
+          });
+          w = x;
         } else {
           auto* x = new QPushButton(Q(c->Caption), boite);
           connect(x, &QPushButton::clicked, this, [this, t, i] {
@@ -544,17 +709,29 @@ void DialogueQt::ConstruitTableau(const std::string& t, QBoxLayout* cadre) {
           w = x;
         }
         w->setObjectName(nom);
-        grille->addWidget(w, (i - 1) / colonnes, (i - 1) % colonnes);
+        if (!c->Bulle.empty()) w->setToolTip(Q(c->Bulle));
+        if (enColonne) grille->addWidget(w, i - 1, 1);
+        else grille->addWidget(w, (i - 1) / colonnes, (i - 1) % colonnes);
       }
     }
     for (int i = 1; i <= static_cast<int>(captions.size()); ++i) {
       Controle* c = etat_.Cherche(t, i);
-      auto* w = boite->findChild<QAbstractButton*>(Q(t) + QString("(%1)").arg(i));
+      auto* w = boite->findChild<QWidget*>(Q(t) + QString("(%1)").arg(i));
       if (!c || !w) continue;
-      if (auto* k = dynamic_cast<CaseACocher*>(c)) w->setChecked(k->Value != 0);
-      if (auto* o = dynamic_cast<BoutonOption*>(c)) w->setChecked(o->Value);
+      if (auto* b = qobject_cast<QAbstractButton*>(w)) {
+        if (auto* k = dynamic_cast<CaseACocher*>(c)) b->setChecked(k->Value != 0);
+        if (auto* o = dynamic_cast<BoutonOption*>(c)) b->setChecked(o->Value);
+      }
+      if (auto* z = dynamic_cast<ZoneTexte*>(c))
+        if (auto* x = qobject_cast<QLineEdit*>(w); x && x->text() != Q(z->Text)) x->setText(Q(z->Text));
+      if (auto* a = dynamic_cast<Apercu*>(c))
+        if (auto* x = qobject_cast<QToolButton*>(w)) x->setIcon(QIcon(PixmapDe(*a)));
       w->setEnabled(c->Enabled);
       w->setVisible(c->Visible);
+      // The number beside a text box of the column.
+      if (auto* l = qobject_cast<QLabel*>(grille->itemAtPosition(i - 1, 0) ? grille->itemAtPosition(i - 1, 0)->widget()
+                                                                            : nullptr))
+        l->setVisible(c->Visible);
     }
   });
 }
@@ -606,14 +783,37 @@ void DialogueQt::Construit() {
     tete->addWidget(titre, 1);
     principal->addLayout(tete);
   }
-  grille_ = new QGridLayout;
+  grillePrincipale_ = grille_ = new QGridLayout;
   grille_->setColumnStretch(1, 1);
-  principal->addLayout(grille_);
+  // A tabbed dialog: its pages on the left; its control arrays side by side, then its own rows,
+  // on the right. Any other: its rows, then its control arrays below them.
+  bool avecOnglets = false;
+  for (auto& [nom, c] : etat_.Controles())
+    if (dynamic_cast<Onglets*>(c)) avecOnglets = true;
+  auto* corps = new QHBoxLayout;
+  principal->addLayout(corps);
+  QBoxLayout* cadreTableaux = nullptr;
+  if (avecOnglets) {
+    colonneOnglets_ = new QVBoxLayout;
+    corps->addLayout(colonneOnglets_, 3);
+    auto* droite = new QVBoxLayout;
+    cadreTableaux = new QHBoxLayout;
+    droite->addLayout(cadreTableaux);
+    droite->addLayout(grille_);
+    droite->addStretch();
+    corps->addLayout(droite, 2);
+  } else {
+    auto* gauche = new QVBoxLayout;
+    gauche->addLayout(grille_);
+    cadreTableaux = new QVBoxLayout;
+    gauche->addLayout(cadreTableaux);
+    corps->addLayout(gauche, 1);
+  }
   boutonsBas_ = new QDialogButtonBox(this);
   boutonsBas_->setObjectName("Boutons");
   for (auto& [nom, c] : etat_.Controles()) AjouteControle(nom, c);
-  auto* cadreTableaux = new QVBoxLayout;
-  principal->addLayout(cadreTableaux);
+  ChoisitGrille(-1);
+  for (QGridLayout* page : pages_) page->setRowStretch(lignes_[page], 1);
   for (const std::string& t : etat_.NomsTableaux()) ConstruitTableau(t, cadreTableaux);
   principal->addStretch();
   principal->addWidget(boutonsBas_);

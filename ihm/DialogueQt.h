@@ -6,7 +6,8 @@
 // as buddy); a mask field, gauge or spin button that follows joins that row; check boxes and
 // lists take rows of their own; options of one group share a frame (titled by their Groupe);
 // buttons in a row follow one another; the OK and "Annuler" buttons stand at the bottom in a
-// button box. Access keys are given to every caption that has none.
+// button box. Access keys are given to every caption that has none. A dialog with a tab control
+// lays the controls of each page in the page, and its control arrays beside the pages.
 #pragma once
 #include <QDialog>
 #include <functional>
@@ -17,6 +18,7 @@
 class QBoxLayout;
 class QGridLayout;
 class QHBoxLayout;
+class QVBoxLayout;
 class QDialogButtonBox;
 class QWidget;
 
@@ -45,13 +47,20 @@ class DialogueQt : public QDialog {
  private:
   void Construit();
   void AjouteControle(const std::string& nom, Controle* c);
+  void AjouteWidget(const std::string& nom, Controle* c);
+  // Makes the grid of a page of the tab control (-1: the dialog's own) the one rows go to.
+  void ChoisitGrille(int onglet);
   void ConstruitTableau(const std::string& nom, QBoxLayout* cadre);
   QHBoxLayout* LigneCourante();
   void FinDeLigne();
   void DonneTouchesDAcces();
   Dialogue& etat_;
   std::vector<std::function<void()>> synchros_;
-  QGridLayout* grille_ = nullptr;
+  QGridLayout* grille_ = nullptr;            // the grid rows go to
+  QGridLayout* grillePrincipale_ = nullptr;  // the dialog's own grid
+  std::vector<QGridLayout*> pages_;          // the grids of the pages of the tab control
+  QVBoxLayout* colonneOnglets_ = nullptr;    // where the tab control stands
+  std::map<QGridLayout*, int> lignes_;       // the next row of each grid not in hand
   QDialogButtonBox* boutonsBas_ = nullptr;
   int ligne_ = 0;
   QHBoxLayout* suite_ = nullptr;        // the row that a mask field, gauge or spin joins

@@ -14,6 +14,8 @@ struct Controle {
   bool Enabled = true;
   bool Visible = true;
   std::function<void()> Click;  // the command a click runs, if any
+  int Onglet = -1;              // the page of the dialog's tab control it stands on; -1 none
+  std::string Bulle;            // the hint shown when the pointer rests on it
   virtual ~Controle() = default;
 };
 
@@ -40,6 +42,20 @@ struct BoutonOption : Controle {
 struct ZoneTexte : Controle {
   std::string Text;
   std::function<void()> Change;
+  std::function<void()> DblClick;
+};
+
+// Tab control: the captions of its pages and the page in front (Tab, from 0); a change of page
+// runs Click. The controls whose Onglet names a page stand on it.
+struct Onglets : Controle {
+  std::vector<std::string> Pages;
+  int Tab = 0;
+};
+
+// Bar graph: one bar a value, in its colour (0x00BBGGRR).
+struct Graphique : Controle {
+  std::vector<double> Valeurs;
+  std::vector<int32_t> Couleurs;
 };
 
 // Spin button, gauge, scroll bar. A spin button ("Spin..." with Min -1 and Max 1) rests at 0: a
@@ -124,6 +140,18 @@ struct Dialogue {
       if (n == nom) return f(indice);
     return nullptr;
   }
+  // The title of a control array follows the caption of a control (a label that changes).
+  void TitreTableau(const std::string& nom, const Controle& titre) { titres_.emplace_back(nom, &titre); }
+  const Controle* TitreDe(const std::string& nom) const {
+    for (auto& [n, c] : titres_)
+      if (n == nom) return c;
+    return nullptr;
+  }
+  bool EstTitre(const Controle* c) const {
+    for (auto& t : titres_)
+      if (t.second == c) return true;
+    return false;
+  }
   const std::vector<std::pair<std::string, Controle*>>& Controles() const { return controles_; }
   // Names of the control arrays; their elements are found with Cherche(nom, i).
   std::vector<std::string> NomsTableaux() const {
@@ -135,6 +163,7 @@ struct Dialogue {
  private:
   std::vector<std::pair<std::string, Controle*>> controles_;
   std::vector<std::pair<std::string, std::function<Controle*(int)>>> tableaux_;
+  std::vector<std::pair<std::string, const Controle*>> titres_;
 };
 
 // Every dialog of the program, by name (the main window "Orva" among them).

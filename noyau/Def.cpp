@@ -1,5 +1,7 @@
 #include "noyau/Def.h"
 
+#include "noyau/Valeurs.h"
+
 namespace orva {
 
 void ReinitialiseNoyau() {
@@ -41,6 +43,7 @@ void ReinitialiseNoyau() {
   FormatLong = Vrai;
   AjoutArcs = AnnuleTrace = EliminerDeconnectes = MetaFichierFerme = Faux;
   ValeursArcsChargees = HorairesOptimises = Faux;
+  ReinitialiseValeurs();
 }
 
 }  // namespace orva

@@ -2,6 +2,7 @@
 
 #include "noyau/Controles.h"
 #include "noyau/Def.h"
+#include "noyau/Valeurs.h"
 
 namespace orva {
 
@@ -117,6 +118,7 @@ void EnregistreNoyau() {
 
   EnregistreTableValeurs("OrdreNoeuds", OrdreNoeuds);
   EnregistreTableValeurs("NomsCourts", NomsCourts);
+  EnregistreTablesValeurs();
 }
 
 }  // namespace orva

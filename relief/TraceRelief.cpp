@@ -17,11 +17,11 @@
 #include "noyau/Plateforme.h"
 #include "noyau/Progression.h"
 #include "noyau/Registre.h"
+#include "noyau/Valeurs.h"
 #include "relief/ArcsMinimaux.h"
 #include "relief/OptionsRelief.h"
 #include "relief/Valuation.h"
 #include "valeurs/Statistiques.h"
-#include "valeurs/Valeurs.h"
 
 namespace orva {
 

@@ -25,7 +25,7 @@ bool MenuAccessible(EntreeMenu* m) {
 }
 
 // Chooses an option: the other options of its group are cleared. The group is its control array,
-// or the options of its dialog that are not in an array.
+// or the options of its dialog with the same Groupe.
 void Choisit(const Cible& c, BoutonOption& o) {
   if (!c.Tableau.empty()) {
     const long n = NombreElements(*c.DialogueCible, c.Tableau);
@@ -34,7 +34,8 @@ void Choisit(const Cible& c, BoutonOption& o) {
         autre->Value = false;
   } else {
     for (auto& [nom, ctl] : c.DialogueCible->Controles())
-      if (auto* autre = dynamic_cast<BoutonOption*>(ctl); autre && autre != &o) autre->Value = false;
+      if (auto* autre = dynamic_cast<BoutonOption*>(ctl); autre && autre != &o && autre->Groupe == o.Groupe)
+        autre->Value = false;
   }
   o.Value = true;
 }
@@ -159,6 +160,17 @@ ResultatAction Affecte(const Cible& c, const std::string& valeur) {
     return Resultat(ResultatAction::Faite);
   }
   if (auto* l = dynamic_cast<Liste*>(ctl)) return AffecteListe(*l, valeur);
+  if (auto* g = dynamic_cast<Onglets*>(ctl)) {
+    if (!n) return Resultat(ResultatAction::Impossible, "nombre entier attendu");
+    if (*n < 0 || *n >= static_cast<long>(g->Pages.size()))
+      return Resultat(ResultatAction::HorsLimites,
+                      "valeur hors limites (0 à " + std::to_string(static_cast<long>(g->Pages.size()) - 1) + ")");
+    if (g->Tab != *n) {
+      g->Tab = static_cast<int>(*n);
+      Declenche(g->Click);
+    }
+    return Resultat(ResultatAction::Faite);
+  }
   return Resultat(ResultatAction::Impossible, "ce contrôle ne prend pas de valeur");
 }
 
@@ -172,6 +184,13 @@ ResultatAction AjouteSelection(const Cible& c, long rang) {
 }
 
 ResultatAction DoubleClique(const Cible& c, long rang) {
+  // A text box that takes a double click (a file name that opens its chooser): the row is 0.
+  if (auto* t = c.Genre == Cible::Element ? dynamic_cast<ZoneTexte*>(c.ControleCible) : nullptr; t && t->DblClick) {
+    if (!t->Enabled) return Resultat(ResultatAction::Desactivee, "contrôle désactivé");
+    if (rang != 0) return Resultat(ResultatAction::HorsLimites, "ligne hors limites");
+    Declenche(t->DblClick);
+    return Resultat(ResultatAction::Faite);
+  }
   auto* l = c.Genre == Cible::Element ? dynamic_cast<Liste*>(c.ControleCible) : nullptr;
   if (!l) return Resultat(ResultatAction::Impossible, "liste attendue");
   if (!l->Enabled) return Resultat(ResultatAction::Desactivee, "contrôle désactivé");

@@ -232,6 +232,13 @@ std::string ValeurControle(const Controle& c) {
   if (auto* u = dynamic_cast<const Curseur*>(&c)) return EnTexte(u->Value);
   if (auto* m = dynamic_cast<const EntreeMenu*>(&c)) return EnTexte(m->Checked);
   if (auto* a = dynamic_cast<const Apercu*>(&c); a && a->Couleur) return EnTexte(*a->Couleur);
+  if (auto* g = dynamic_cast<const Onglets*>(&c)) return EnTexte(static_cast<long>(g->Tab));
+  if (auto* g = dynamic_cast<const Graphique*>(&c)) {
+    // The bars, in class order, separated by a blank.
+    std::string s;
+    for (double v : g->Valeurs) s += (s.empty() ? "" : " ") + EnTexte(v);
+    return s;
+  }
   return c.Caption;
 }
 

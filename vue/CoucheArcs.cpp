@@ -353,22 +353,8 @@ void EnregistreVueArcs() {
   ModeTrace = ModeCourant = ModeArc = Mode{};
   EpaisseurArcsDXF = 0;
   ValuationDesArcs = nullptr;
-  Classes.ReDim(1, 1);
-  NbClasses = 1;
-  NoeudVals = {};
   EnregistreReglage("EpaisseurArcsDXF", EpaisseurArcsDXF);
-  EnregistreReglage("NbClasses", NbClasses);
   EnregistreTableValeurs("ComparaisonArcs", ComparaisonArcs);
-  TableNommee& c = EnregistreTable("Classes", Classes);
-  AjouteChamp(c, Classes, "Min", &ClasseVal::Min);
-  AjouteChamp(c, Classes, "Max", &ClasseVal::Max);
-  AjouteChamp(c, Classes, "Couleur", &ClasseVal::Couleur);
-  AjouteChamp(c, Classes, "Epaisseur", &ClasseVal::Epaisseur);
-  TableNommee& v = EnregistreTable("NoeudVals", NoeudVals);
-  AjouteChamp(v, NoeudVals, "Indice", &NoeudVal::Indice);
-  AjouteChamp(v, NoeudVals, "Code", &NoeudVal::Code);
-  AjouteChamp(v, NoeudVals, "Valeur", &NoeudVal::Valeur);
-  AjouteChamp(v, NoeudVals, "Difference", &NoeudVal::Difference);
 
   EnregistreAspectVisuelArcs();
   EnregistreAspectVisuelArcsAttr();

@@ -8,6 +8,7 @@
 
 #include "noyau/Def.h"
 #include "noyau/Tableau.h"
+#include "noyau/Valeurs.h"
 
 namespace orva {
 
@@ -21,25 +22,6 @@ inline Mode ModeArc;
 // Thickness of the arcs in the DXF output of arcs coloured by nodes.
 inline double EpaisseurArcsDXF = 0;
 
-// The class table and the displayed node values that colour arcs by nodes. The value layers
-// fill them; the layer only reads them.
-struct ClasseVal {
-  float Min = 0;       // lower bound, included
-  float Max = 0;       // upper bound, excluded
-  int32_t Couleur = 0;
-  float Epaisseur = 0;
-};
-inline Tableau<ClasseVal> Classes;
-inline int16_t NbClasses = 1;
-struct NoeudVal {
-  int16_t Indice = 0;  // the node
-  int32_t Code = 0;
-  float Valeur = 0;
-  float Travail1 = 0, Travail2 = 0;
-  float Difference = 0;
-  int16_t Drapeau = 0;
-};
-inline Tableau<NoeudVal> NoeudVals;
 
 // The lift of an arc's middle above the plane of the view, with the arguments of the relief's
 // HauteurArc (time, length, mode, projected ends, arc and node indices). The relief registers its

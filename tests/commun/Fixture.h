@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "noyau/Erreurs.h"
 #include "noyau/Plateforme.h"
 
 namespace orva {
@@ -59,5 +60,16 @@ struct DossierTemporaire {
 };
 
 std::string LitOctets(const std::string& chemin);
+
+// The number of the run-time error that f raises, 0 for none.
+template <class F>
+int ErreurDe(F&& f) {
+  try {
+    f();
+  } catch (const ErreurExecution& e) {
+    return e.Numero;
+  }
+  return 0;
+}
 
 }  // namespace orva

@@ -48,15 +48,5 @@ inline std::string LigneArcLong(const std::string& o, const std::string& d, cons
          Droite(debit, 6) + " " + Droite(capacite, 6);
 }
 
-// The error number raised by f, or 0.
-template <class F>
-int NumeroErreur(F&& f) {
-  try {
-    f();
-  } catch (const ErreurExecution& e) {
-    return e.Numero;
-  }
-  return 0;
-}
 
 }  // namespace orva

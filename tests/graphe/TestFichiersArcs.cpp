@@ -163,7 +163,7 @@ TEST_F(ArcsLong, FichierVideNeLevePasDErreur) {
 }
 
 TEST_F(ArcsLong, FichierManquant) {
-  EXPECT_EQ(NumeroErreur([] { ChargeArcsLong("/pas/de/tel/fichier.dat"); }), ErrFichierIntrouvable);
+  EXPECT_EQ(ErreurDe([] { ChargeArcsLong("/pas/de/tel/fichier.dat"); }), ErrFichierIntrouvable);
 }
 
 TEST_F(ArcsLong, Limite99999) {
@@ -222,11 +222,11 @@ TEST_F(ArcsLong, ModeAuDelaDe16BitsDepassement) {
   for (long i = 1; i <= 3; ++i) Noeuds[i].Code = static_cast<int32_t>(i);
   const std::string mauvais =
       LigneArcLong("5", "6", "7", "10", "0010") + "\n" + LigneArcLong("7", "8", "4E4", "10", "0010") + "\n";
-  EXPECT_EQ(NumeroErreur([&] { LitLong(mauvais); }), ErrDepassement);
+  EXPECT_EQ(ErreurDe([&] { LitLong(mauvais); }), ErrDepassement);
   // The count stays, inside the table; what follows does not fail.
   EXPECT_EQ(NbArcs, 2);
   EXPECT_EQ(Arcs.UBound(), 100000);
-  EXPECT_EQ(NumeroErreur([] {
+  EXPECT_EQ(ErreurDe([] {
               ImplementeIndicesArcs();
               DefinitOrientationArcs();
               DefinitModesNoeuds();
@@ -241,7 +241,7 @@ TEST_F(ArcsLong, ModeAuDelaDe16BitsDepassement) {
   EXPECT_EQ(port.boites[0].texte, "Erreur 6 : Dépassement de capacité");
   // The same when appending.
   AjoutArcs = Vrai;
-  EXPECT_EQ(NumeroErreur([&] { LitLong(mauvais); }), ErrDepassement);
+  EXPECT_EQ(ErreurDe([&] { LitLong(mauvais); }), ErrDepassement);
   EXPECT_EQ(NbArcs, 2);
   // A mode of 4 digits stays inside 16 bits.
   AjoutArcs = Faux;
@@ -325,7 +325,7 @@ TEST_F(ArcsCourt, ArcVideSansIndice) {
 
 TEST_F(ArcsCourt, FichierVideFinDeFichier) {
   LitCourt(LigneArcCourt("1", "2", "7", "10", "0010"));
-  EXPECT_EQ(NumeroErreur([] { LitCourt(""); }), ErrFinFichier);
+  EXPECT_EQ(ErreurDe([] { LitCourt(""); }), ErrFinFichier);
   EXPECT_EQ(NbArcs, 2);
   EXPECT_EQ(Arcs.UBound(), 100000);
 }
@@ -492,7 +492,7 @@ TEST_F(EcritureArcs, LongIndicePerimeEstUneErreur) {
   Arcs.ReDim(0, 1);
   Arcs[1].IndiceOrigine = 3;
   std::ostringstream out;
-  EXPECT_EQ(NumeroErreur([&] { EcritArcsLong(out); }), ErrIndice);
+  EXPECT_EQ(ErreurDe([&] { EcritArcsLong(out); }), ErrIndice);
 }
 
 TEST_F(EcritureArcs, CourtOctetPourOctet) {

@@ -153,14 +153,14 @@ TEST_F(NoeudsLong, FinsDeLigne) {
 TEST_F(NoeudsLong, FichierVideFinDeFichier) {
   LitLong(LigneNoeudLong("A", "1", "0", "1", "1", "0"));
   ASSERT_EQ(NbNoeuds, 1);
-  EXPECT_EQ(NumeroErreur([] { LitLong(""); }), ErrFinFichier);
+  EXPECT_EQ(ErreurDe([] { LitLong(""); }), ErrFinFichier);
   // The count stays, the table is allocated at its maximum: later loops stay inside it.
   EXPECT_EQ(NbNoeuds, 1);
   EXPECT_EQ(Noeuds.UBound(), 6000);
 }
 
 TEST_F(NoeudsLong, FichierManquant) {
-  EXPECT_EQ(NumeroErreur([] { ChargeNoeudsLong("/pas/de/tel/fichier.dat"); }), ErrFichierIntrouvable);
+  EXPECT_EQ(ErreurDe([] { ChargeNoeudsLong("/pas/de/tel/fichier.dat"); }), ErrFichierIntrouvable);
 }
 
 TEST_F(NoeudsLong, TexteMalForme) {
@@ -191,7 +191,7 @@ TEST_F(NoeudsLong, TexteMalForme) {
 
 TEST_F(NoeudsLong, CodeAuDelaDe32BitsDepassement) {
   NbNoeuds = 2;
-  EXPECT_EQ(NumeroErreur([] {
+  EXPECT_EQ(ErreurDe([] {
               LitLong(LigneNoeudLong("A", "1", "0", "1", "1", "0") + "\r\n" +
                       LigneNoeudLong("B", "9999999999", "0", "1", "1", "0"));
             }),
@@ -288,7 +288,7 @@ TEST_F(NoeudsCourt, LimitesEtFichierVide) {
   EXPECT_EQ(Noeuds[6000].Actif, Faux);
   EXPECT_EQ(NomsCourts[6000], "");
   EXPECT_EQ(NomsCourts[5999], "C");
-  EXPECT_EQ(NumeroErreur([] { LitCourt(""); }), ErrFinFichier);
+  EXPECT_EQ(ErreurDe([] { LitCourt(""); }), ErrFinFichier);
   EXPECT_EQ(NbNoeuds, 6000);
 }
 
@@ -517,7 +517,7 @@ TEST_F(EcritureNoeuds, CourtSansNomsCourtsEstUneErreurDIndice) {
   NbNoeuds = 1;
   Noeuds.ReDim(0, 1);
   std::ostringstream out;
-  EXPECT_EQ(NumeroErreur([&] { EcritNoeudsCourt(out); }), ErrIndice);
+  EXPECT_EQ(ErreurDe([&] { EcritNoeudsCourt(out); }), ErrIndice);
 }
 
 TEST_F(EcritureNoeuds, CheminsRemplaces) {

@@ -140,10 +140,10 @@ void CompareEtats(const Etat& litteral, const Etat& indexe, const std::string& c
 template <class F, class G>
 void CompareLitteralEtIndexe(F litteral, G indexe, const std::string& contexte) {
   const Etat depart = Etat::Capture(0);
-  const int e1 = NumeroErreur(litteral);
+  const int e1 = ErreurDe(litteral);
   const Etat apresLitteral = Etat::Capture(e1);
   depart.Restaure();
-  const int e2 = NumeroErreur(indexe);
+  const int e2 = ErreurDe(indexe);
   const Etat apresIndexe = Etat::Capture(e2);
   CompareEtats(apresLitteral, apresIndexe, contexte);
 }
@@ -237,10 +237,10 @@ TEST_F(IndicesArcs, BornesDeNbNoeuds) {
   // No node and record 0 only: the scan reads past the table.
   Noeuds_({});
   ArcsCodes({{1, 2}});
-  EXPECT_EQ(NumeroErreur([] { ImplementeIndicesArcs(); }), ErrIndice);
+  EXPECT_EQ(ErreurDe([] { ImplementeIndicesArcs(); }), ErrIndice);
   // No arc, no scan.
   ArcsCodes({});
-  EXPECT_EQ(NumeroErreur([] { ImplementeIndicesArcs(); }), 0);
+  EXPECT_EQ(ErreurDe([] { ImplementeIndicesArcs(); }), 0);
   // NbNoeuds 0 over a table left at its maximum by a failed read: the scan never meets j = 0
   // and goes on; an arc between two nodes of code 0 finds node 1.
   Noeuds.ReDim(0, 6000);
@@ -253,7 +253,7 @@ TEST_F(IndicesArcs, BornesDeNbNoeuds) {
   Noeuds_({1, 2});
   NbNoeuds = 5;
   ArcsCodes({{1, 2}, {1, 3}});
-  EXPECT_EQ(NumeroErreur([] { ImplementeIndicesArcs(); }), ErrIndice);
+  EXPECT_EQ(ErreurDe([] { ImplementeIndicesArcs(); }), ErrIndice);
   EXPECT_EQ(Arcs[1].IndiceOrigine, 1);
   EXPECT_EQ(Arcs[1].IndiceDestination, 2);
   EXPECT_EQ(Arcs[2].IndiceOrigine, 1);  // set before the scan ran off the table
@@ -386,7 +386,7 @@ TEST_F(OrientationArcs, SansArcOrientePasDeSecondePasse) {
 
 TEST_F(OrientationArcs, SommeHoraireHorsDe16Bits) {
   ArcsModes({{1, 2, 7, 0, 0}, {1, 2, 4, 20000, 20000}});
-  EXPECT_EQ(NumeroErreur([] { DefinitOrientationArcs(); }), ErrDepassement);
+  EXPECT_EQ(ErreurDe([] { DefinitOrientationArcs(); }), ErrDepassement);
   EXPECT_EQ(Arcs[1].Orientation, Vrai);
 }
 

@@ -179,7 +179,7 @@ TEST_F(ModesTransport, FamillesDesGroupes) {
 
 TEST_F(ModesTransport, IndicePerimeHorsTableEstUneErreur) {
   Reseau(2, {{1, 5, 7}});
-  EXPECT_EQ(NumeroErreur([] { DefinitModesNoeuds(); }), ErrIndice);
+  EXPECT_EQ(ErreurDe([] { DefinitModesNoeuds(); }), ErrIndice);
 }
 
 void Coche(int tgv, int autoroute, int train) {

@@ -4,7 +4,13 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QBarSeries>
+#include <QBarSet>
+#include <QChart>
+#include <QChartView>
 #include <QCheckBox>
+#include <QGroupBox>
+#include <QTabWidget>
 #include <QComboBox>
 #include <QDialog>
 #include <QFontDialog>
@@ -38,6 +44,10 @@
 #include "noyau/Def.h"
 #include "noyau/Orva.h"
 #include "scenario/Scenario.h"
+#include "noyau/Valeurs.h"
+#include "valeurs/FichiersValeurs.h"
+#include "valeurs/Ronds.h"
+#include "valeurs/Statistiques.h"
 #include "vue/Angles.h"
 #include "vue/AspectVisuelNoeuds.h"
 #include "vue/CoucheNoeuds.h"
@@ -70,13 +80,15 @@ struct FinApplication : ::testing::Environment {
 };
 const auto* const kFinApplication = ::testing::AddGlobalTestEnvironment(new FinApplication);
 
-// Runs `f` on the modal widget named `nom` (a QMessageBox for "QMessageBox") once it is up.
+// Runs `f` on the modal widget named `nom` (any box of a Qt class for that class's name, as
+// "QMessageBox" or "QFileDialog") once it is up.
 // After five seconds without it, whatever modal is up is rejected, so that a test fails instead
 // of hanging.
 void QuandModal(const QString& nom, std::function<void(QWidget*)> f, int essais = 500) {
   QTimer::singleShot(10, [nom, f, essais] {
     QWidget* w = QApplication::activeModalWidget();
-    const bool trouve = w && (nom == "QMessageBox" ? w->inherits("QMessageBox") : w->objectName() == nom);
+    const bool classe = nom.startsWith("Q") && !nom.contains('.');
+    const bool trouve = w && (classe ? w->inherits(nom.toLatin1().constData()) : w->objectName() == nom);
     if (trouve) {
       f(w);
       return;
@@ -454,6 +466,51 @@ TEST_F(Ihm, BoiteDePoliceAvecCouleurEtEffets) {
   p.Couleur = RGB(1, 2, 3);
   BoitePolice boite(p, fenetre);
   EXPECT_EQ(boite.Choix().Couleur, RGB(1, 2, 3));
+}
+
+// Statistiques: its pages, the limits and colours beside them, the bar graph that follows the
+// classes, and the double click on a file name that opens the chooser.
+TEST_F(Ihm, StatistiquesPagesBornesEtGraphique) {
+  FichierNoeudVal1 = std::string(ORVA_SOURCE) + "/data/noeudval/stm312.dat";
+  ChargeNoeudVal1(FichierNoeudVal1);
+  CalculeValeursNoeuds("Valeur1");
+  menStatistiques();
+  DialogueQt* d = DialogueDe("Statistiques", fenetre);
+  ASSERT_NE(d, nullptr);
+  d->Synchronise();
+  d->show();
+  auto* pages = Enfant<QTabWidget>(d, "SSTab1");
+  ASSERT_EQ(pages->count(), 3);
+  EXPECT_TRUE(pages->widget(0)->isAncestorOf(Enfant<QLineEdit>(d, "Text3")));
+  EXPECT_TRUE(pages->widget(1)->isAncestorOf(Enfant<QPushButton>(d, "ArcVale1")));
+  EXPECT_FALSE(pages->isAncestorOf(Enfant<QLineEdit>(d, "Text5")));
+  Tape(Enfant<QLineEdit>(d, "Text5"), "3");
+  EXPECT_EQ(NbClasses, 3);
+  EXPECT_TRUE(Enfant<QLineEdit>(d, "Borne(4)")->isVisible());
+  EXPECT_FALSE(Enfant<QLineEdit>(d, "Borne(5)")->isVisible());
+  Enfant<QPushButton>(d, "SSCommand2")->click();
+  auto* graphe = Enfant<QChartView>(d, "Graph1");
+  ASSERT_EQ(graphe->chart()->series().size(), 1);
+  auto* barres = qobject_cast<QBarSeries*>(graphe->chart()->series()[0]);
+  ASSERT_NE(barres, nullptr);
+  ASSERT_EQ(barres->count(), 3);
+  double total = 0;
+  for (QBarSet* b : barres->barSets()) total += b->at(0);
+  EXPECT_EQ(total, 157);
+  // A limit typed moves the class; the page of arcs titles the colours with widths.
+  Tape(Enfant<QLineEdit>(d, "Borne(2)"), "100000");
+  EXPECT_FLOAT_EQ(Classes[1].Max, 100000);
+  pages->setCurrentIndex(1);
+  EXPECT_EQ(Statistiques.SSTab1.Tab, 1);
+  EXPECT_EQ(Enfant<QGroupBox>(d, "EtiquetteCouleurs")->title(), QString("Couleurs et épaisseurs des classes :"));
+  pages->setCurrentIndex(0);
+  QuandModal("QFileDialog", [](QWidget* f) {
+    EXPECT_EQ(f->windowTitle(), QString("Fichier noeud-valeur 1 (état final)..."));
+    qobject_cast<QDialog*>(f)->reject();
+  });
+  QTest::mouseDClick(Enfant<QLineEdit>(d, "Text3"), Qt::LeftButton);
+  EXPECT_EQ(FichierNoeudVal1, std::string(ORVA_SOURCE) + "/data/noeudval/stm312.dat");
+  d->hide();
 }
 
 // Every dialog of every subsystem gets its widgets from its state alone, with access keys that

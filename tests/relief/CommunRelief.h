@@ -17,16 +17,6 @@
 
 namespace orva {
 
-// The number of the run-time error that f raises, 0 for none.
-template <class F>
-int ErreurDe(F&& f) {
-  try {
-    f();
-  } catch (const ErreurExecution& e) {
-    return e.Numero;
-  }
-  return 0;
-}
 
 class ReliefTest : public OrvaTest {
  protected:
