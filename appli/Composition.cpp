@@ -9,6 +9,7 @@
 #include "graphe/FichiersArcs.h"
 #include "graphe/FichiersNoeuds.h"
 #include "graphe/Inscriptions.h"
+#include "graphe/Modifications.h"
 #include "graphe/Modes.h"
 #include "noyau/Def.h"
 #include "noyau/Orva.h"
@@ -116,6 +117,7 @@ void EnregistreTout() {
   EnregistreNoyau();
   EnregistreOrva();
   EnregistreGraphe();
+  EnregistreModifications();
   // The dialogs, in the order of the table of dialogs.
   EnregistreModifArcs();
   EnregistreModifNoeuds();

@@ -197,6 +197,11 @@ void PortQt::PressePapiers(const std::vector<uint8_t>& metafichier, const std::v
   QApplication::clipboard()->setMimeData(m);
 }
 
+void PortQt::PressePapiersTexte(const std::string& texte) {
+  Plateforme::PressePapiersTexte(texte);
+  QApplication::clipboard()->setText(QString::fromStdString(texte));
+}
+
 void PortQt::Quitte() {
   quitte_ = true;
   QApplication::exit(0);

@@ -33,6 +33,7 @@ class PortQt : public Plateforme {
   // Starts the command line detached; a lone file name goes to the desktop's opener.
   void LanceProgramme(const std::string& ligne) override;
   void PressePapiers(const std::vector<uint8_t>& metafichier, const std::vector<uint8_t>& png) override;
+  void PressePapiersTexte(const std::string& texte) override;
   // Leaves every event loop; a command still running ends quietly at its next modal showing.
   void Quitte() override;
   bool Quitte_() const { return quitte_; }

@@ -1,6 +1,8 @@
 // Dialog state: controls as plain records that the layers read and the commands write. The GUI
 // binds widgets to them and the scenario runner finds them by name; neither holds logic.
 #pragma once
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -84,7 +86,31 @@ struct Liste : Controle {
   std::function<void()> DblClick;
 
   void Clear() { Lignes.clear(); Selected.clear(); ListIndex = -1; }
-  void AddItem(const std::string& s) { Lignes.push_back(s); Selected.push_back(false); }
+  bool Trie = false;               // rows kept in the order of their text, as a sorted list does
+  void AddItem(const std::string& s) {
+    if (Selected.size() != Lignes.size()) Selected.resize(Lignes.size(), false);
+    std::size_t i = Lignes.size();
+    // A sorted list: after the rows that do not come later.
+    if (Trie) i = static_cast<std::size_t>(std::upper_bound(Lignes.begin(), Lignes.end(), s, AvantDansLaListe) - Lignes.begin());
+    Lignes.insert(Lignes.begin() + static_cast<std::ptrdiff_t>(i), s);
+    Selected.insert(Selected.begin() + static_cast<std::ptrdiff_t>(i), false);
+  }
+  void RemoveItem(int i) {
+    if (i < 0 || i >= ListCount()) return;
+    Lignes.erase(Lignes.begin() + i);
+    if (static_cast<std::size_t>(i) < Selected.size()) Selected.erase(Selected.begin() + i);
+    if (ListIndex == i) ListIndex = -1;
+    else if (ListIndex > i) --ListIndex;
+  }
+  // The order of a sorted list: character by character, letters without their case.
+  static bool AvantDansLaListe(const std::string& a, const std::string& b) {
+    const std::size_t n = a.size() < b.size() ? a.size() : b.size();
+    for (std::size_t k = 0; k < n; ++k) {
+      auto c = [](char x) { return (x >= 'a' && x <= 'z') ? static_cast<unsigned char>(x - 32) : static_cast<unsigned char>(x); };
+      if (c(a[k]) != c(b[k])) return c(a[k]) < c(b[k]);
+    }
+    return a.size() < b.size();
+  }
   int ListCount() const { return static_cast<int>(Lignes.size()); }
   bool Saisissable() const { return Editable || (Combo && !ListeDeroulante); }
   // The text of the selected row ("" when none is).

@@ -37,6 +37,8 @@ Plateforme* courant = &muet;
 
 }  // namespace
 
+void Plateforme::PressePapiersTexte(const std::string& texte) { TextePressePapiers = texte; }
+
 Plateforme& Port() { return *courant; }
 void DefinitPort(Plateforme* p) { courant = p ? p : &muet; }
 

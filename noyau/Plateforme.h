@@ -56,9 +56,15 @@ class Plateforme {
   // Starts an outside program with its command line.
   virtual void LanceProgramme(const std::string& ligne) = 0;
   virtual void PressePapiers(const std::vector<uint8_t>& metafichier, const std::vector<uint8_t>& png) = 0;
+  // Puts a text on the clipboard: kept in TextePressePapiers, and on the system's clipboard
+  // where there is one.
+  virtual void PressePapiersTexte(const std::string& texte);
   // Ends the program at once, nothing saved.
   virtual void Quitte() = 0;
 };
+
+// The text a command put on the clipboard last.
+inline std::string TextePressePapiers;
 
 // The port in use; a silent default until the program installs one.
 Plateforme& Port();

@@ -2,6 +2,7 @@
 
 #include "noyau/Controles.h"
 #include "noyau/Def.h"
+#include "noyau/Plateforme.h"
 #include "noyau/Valeurs.h"
 
 namespace orva {
@@ -119,6 +120,8 @@ void EnregistreNoyau() {
   EnregistreTableValeurs("OrdreNoeuds", OrdreNoeuds);
   EnregistreTableValeurs("NomsCourts", NomsCourts);
   EnregistreTablesValeurs();
+  TextePressePapiers.clear();
+  EnregistreReglage("TextePressePapiers", TextePressePapiers);
 }
 
 }  // namespace orva
