@@ -1,4 +1,5 @@
-// State of the dialog ModifNoeuds ("Modifie les noeuds"): the current node and its fields.
+// State of the dialog ModifNoeuds ("Modifie les noeuds"): the current node and its fields, and
+// its commands.
 #pragma once
 #include "noyau/Controles.h"
 
@@ -6,7 +7,20 @@ namespace orva {
 
 struct EtatModifNoeuds : Dialogue {
   Liste ListeModifiable1;  // row 0 a blank, row n node n
-  ZoneTexte Texte1, Texte2, Texte3, Texte4, Texte5, Texte6, Texte7;
+  Etiquette Frame3D1;      // "Caractéristques"
+  ZoneTexte Texte1;        // Nom
+  ZoneTexte Texte2;        // Code
+  ZoneTexte Texte3;        // Population
+  ZoneTexte Texte4, Texte5, Texte6;  // X, Y, Z
+  ZoneTexte Texte7;        // Liens, shown only
+  ZoneTexte Texte8;        // Valeur, shown only
+  Bouton Command3D2;  // "Créer"
+  Bouton Command3D5;  // modify
+  Bouton Command3D1;  // remove
+  Bouton Command3D4;  // "Enregistrer le fichier"
+  Bouton Command3D6;  // the redraw options
+  Bouton BtnHoraires;
+  Bouton Command3D3;  // "Quitter"
 };
 inline EtatModifNoeuds ModifNoeuds;
 
