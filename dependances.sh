@@ -15,6 +15,8 @@ paquets=(
   # wmf2svg, which reads our metafiles back in the tests, and the fonts it cannot start without
   # (libwmf only recommends them).
   libwmf-bin fonts-urw-base35
+  # ezdxf, which reads the DXF output back in a test.
+  python3-ezdxf
 )
 
 manquants=()

@@ -4,6 +4,7 @@
 #include "anamorphose/FrmAnamorphose.h"
 #include "appli/Demarrage.h"
 #include "dessin/Dessin.h"
+#include "dxf/SortieDXF.h"
 #include "edition/ModifArcs.h"
 #include "edition/ModifNoeuds.h"
 #include "graphe/FichiersArcs.h"
@@ -107,6 +108,7 @@ const Liaison kLiaisons[] = {
     {"menCoûts", menCouts},
     {"menCouleur", menCouleur},
     {"menExporteGltf", menExporteGltf},
+    {"menCréeFichDXF", menCreeFichDXF},
     {"menAPropos", menAPropos},
 };
 
@@ -140,6 +142,7 @@ void EnregistreTout() {
   EnregistreTraceRelief();
   EnregistreFacettes();
   EnregistreAnamorphose();
+  EnregistreSortieDXF();
   // The lift of the arc layer is the relief's valuation.
   ValuationDesArcs = HauteurArc;
   for (const Liaison& l : kLiaisons) LieMenu(l.menu, l.commande);

@@ -25,6 +25,7 @@
 #include <QToolButton>
 #include <QValueAxis>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <set>
 
 #include "dessin/Apercu.h"
@@ -54,6 +55,13 @@ const std::map<std::string, std::string>& Libelles() {
       {"AspectVisuelArcs.Text3", "Numéro de la couleur :"},
       {"TraceArcs.Option3DMode", "Modes du graphe"},
       {"Statistiques.Borne", "Bornes des classes :"},
+      {"SortieDXF.CouleurCad", "Couleur"},
+      {"SortieDXF.epaisseurcad", "Epaisseur"},
+      {"SortieDXF.plancad", "Plan"},
+      {"SortieDXF.Tube", "Tubes"},
+      {"SortieDXF.cadcircle", "Cercles et noms"},
+      {"SortieDXF.NomVilleDxf", "Texte des noms"},
+      {"SortieDXF.CocheNoeud", "Noeuds"},
   };
   return m;
 }
@@ -617,10 +625,27 @@ void DialogueQt::AjouteWidget(const std::string& nom, Controle* c) {
   }
 }
 
+// The indices of a control array: from 0 when it has an element 0, otherwise from 1, on past
+// one missing index (an array may leave one out).
+static std::vector<int> IndicesDuTableau(const Dialogue& d, const std::string& t) {
+  std::vector<int> r;
+  int manquants = 0;
+  for (int i = d.Cherche(t, 0) ? 0 : 1; i < 100000 && manquants < 2; ++i) {
+    if (d.Cherche(t, i)) {
+      r.push_back(i);
+      manquants = 0;
+    } else if (i > 0) {
+      ++manquants;
+    }
+  }
+  return r;
+}
+
 void DialogueQt::ConstruitTableau(const std::string& t, QBoxLayout* cadre) {
   // Rows made by the program (one option per present mode): rebuilt when their captions change,
   // their values followed at every synchronisation. Text boxes and colour swatches stand in one
-  // column, options and buttons in three when there are many.
+  // column, labelled by their captions (or their numbers), options and buttons in three columns
+  // when there are many.
   const Controle* titre = etat_.TitreDe(t);
   auto* boite = new QGroupBox(Q(titre ? titre->Caption : LibelleDe(etat_.Nom, t)), this);
   // The frame takes the name of the label that titles it, if any.
@@ -632,12 +657,9 @@ void DialogueQt::ConstruitTableau(const std::string& t, QBoxLayout* cadre) {
   cadre->addWidget(boite, 0, Qt::AlignTop);
   synchros_.push_back([this, t, boite, grille, titre] {
     if (titre) boite->setTitle(Q(titre->Caption));
+    const std::vector<int> indices = IndicesDuTableau(etat_, t);
     std::vector<std::string> captions;
-    for (int i = 1; i < 100000; ++i) {
-      Controle* c = etat_.Cherche(t, i);
-      if (!c) break;
-      captions.push_back(c->Caption);
-    }
+    for (int i : indices) captions.push_back(std::to_string(i) + "|" + etat_.Cherche(t, i)->Caption);
     boite->setVisible(!captions.empty());
     if (tableaux_[t] != captions) {
       tableaux_[t] = captions;
@@ -645,10 +667,12 @@ void DialogueQt::ConstruitTableau(const std::string& t, QBoxLayout* cadre) {
         delete it->widget();
         delete it;
       }
-      const bool enColonne = !captions.empty() && (dynamic_cast<ZoneTexte*>(etat_.Cherche(t, 1)) ||
-                                                   dynamic_cast<Apercu*>(etat_.Cherche(t, 1)));
+      const bool enColonne = !indices.empty() && (dynamic_cast<ZoneTexte*>(etat_.Cherche(t, indices.front())) ||
+                                                  dynamic_cast<Apercu*>(etat_.Cherche(t, indices.front())));
       const int colonnes = !enColonne && captions.size() > 8 ? 3 : 1;
-      for (int i = 1; i <= static_cast<int>(captions.size()); ++i) {
+      for (std::size_t rang = 0; rang < indices.size(); ++rang) {
+        const int i = indices[rang];
+        const int r = static_cast<int>(rang);
         Controle* c = etat_.Cherche(t, i);
         const QString nom = Q(t) + QString("(%1)").arg(i);
         QWidget* w = nullptr;
@@ -668,11 +692,8 @@ void DialogueQt::ConstruitTableau(const std::string& t, QBoxLayout* cadre) {
           x->setAutoExclusive(false);
           connect(x, &QRadioButton::clicked, this, [this, t, i] {
             Action([this, t, i] {
-              for (int j = 1;; ++j) {
-                auto* o = dynamic_cast<BoutonOption*>(etat_.Cherche(t, j));
-                if (!etat_.Cherche(t, j)) break;
-                if (o) o->Value = j == i;
-              }
+              for (int j : IndicesDuTableau(etat_, t))
+                if (auto* o = dynamic_cast<BoutonOption*>(etat_.Cherche(t, j))) o->Value = j == i;
               if (Controle* cc = etat_.Cherche(t, i); cc && cc->Click) cc->Click();
             });
           });
@@ -688,7 +709,9 @@ void DialogueQt::ConstruitTableau(const std::string& t, QBoxLayout* cadre) {
               }
             });
           });
-          grille->addWidget(new QLabel(QString::number(i), boite), i - 1, 0);
+          auto* l = new QLabel(c->Caption.empty() ? QString::number(i) : Q(c->Caption), boite);
+          l->setBuddy(x);
+          grille->addWidget(l, r, 0);
           w = x;
         } else if (dynamic_cast<Apercu*>(c)) {
           auto* x = new QToolButton(boite);
@@ -710,11 +733,12 @@ void DialogueQt::ConstruitTableau(const std::string& t, QBoxLayout* cadre) {
         }
         w->setObjectName(nom);
         if (!c->Bulle.empty()) w->setToolTip(Q(c->Bulle));
-        if (enColonne) grille->addWidget(w, i - 1, 1);
-        else grille->addWidget(w, (i - 1) / colonnes, (i - 1) % colonnes);
+        if (enColonne) grille->addWidget(w, r, 1);
+        else grille->addWidget(w, r / colonnes, r % colonnes);
       }
     }
-    for (int i = 1; i <= static_cast<int>(captions.size()); ++i) {
+    for (std::size_t rang = 0; rang < indices.size(); ++rang) {
+      const int i = indices[rang];
       Controle* c = etat_.Cherche(t, i);
       auto* w = boite->findChild<QWidget*>(Q(t) + QString("(%1)").arg(i));
       if (!c || !w) continue;
@@ -728,12 +752,49 @@ void DialogueQt::ConstruitTableau(const std::string& t, QBoxLayout* cadre) {
         if (auto* x = qobject_cast<QToolButton*>(w)) x->setIcon(QIcon(PixmapDe(*a)));
       w->setEnabled(c->Enabled);
       w->setVisible(c->Visible);
-      // The number beside a text box of the column.
-      if (auto* l = qobject_cast<QLabel*>(grille->itemAtPosition(i - 1, 0) ? grille->itemAtPosition(i - 1, 0)->widget()
-                                                                            : nullptr))
+      // The label beside a text box of the column.
+      const int r = static_cast<int>(rang);
+      if (auto* l = qobject_cast<QLabel*>(grille->itemAtPosition(r, 0) ? grille->itemAtPosition(r, 0)->widget() : nullptr))
         l->setVisible(c->Visible);
     }
   });
+}
+
+void DialogueQt::ConstruitGrille(QBoxLayout* cadre) {
+  // The arrays of GrilleTableaux as one table: a column an array, a row an index, the rows
+  // labelled by the captions of the first array's elements.
+  const std::vector<std::string>& t = etat_.GrilleTableaux;
+  auto* boite = new QGroupBox(Q(etat_.TitreGrille), this);
+  boite->setObjectName("Grille");
+  auto* grille = new QGridLayout(boite);
+  grille->setVerticalSpacing(2);
+  cadre->addWidget(boite, 0, Qt::AlignTop);
+  for (std::size_t k = 0; k < t.size(); ++k)
+    grille->addWidget(new QLabel(Q(LibelleDe(etat_.Nom, t[k])), boite), 0, static_cast<int>(k) + 1);
+  const std::vector<int> indices = IndicesDuTableau(etat_, t.front());
+  for (std::size_t rang = 0; rang < indices.size(); ++rang) {
+    const int i = indices[rang];
+    const int ligne = static_cast<int>(rang) + 1;
+    grille->addWidget(new QLabel(Q(etat_.Cherche(t.front(), i)->Caption), boite), ligne, 0);
+    for (std::size_t k = 0; k < t.size(); ++k) {
+      auto* z = dynamic_cast<ZoneTexte*>(etat_.Cherche(t[k], i));
+      if (!z) continue;
+      auto* x = new QLineEdit(boite);
+      x->setObjectName(Q(t[k]) + QString("(%1)").arg(i));
+      x->setMinimumWidth(80);
+      connect(x, &QLineEdit::textEdited, this, [this, z](const QString& v) {
+        Action([z, v] {
+          z->Text = v.toStdString();
+          if (z->Change) z->Change();
+        });
+      });
+      grille->addWidget(x, ligne, static_cast<int>(k) + 1);
+      synchros_.push_back([x, z] {
+        if (x->text() != Q(z->Text)) x->setText(Q(z->Text));
+        x->setEnabled(z->Enabled);
+      });
+    }
+  }
 }
 
 void DialogueQt::DonneTouchesDAcces() {
@@ -786,7 +847,8 @@ void DialogueQt::Construit() {
   grillePrincipale_ = grille_ = new QGridLayout;
   grille_->setColumnStretch(1, 1);
   // A tabbed dialog: its pages on the left; its control arrays side by side, then its own rows,
-  // on the right. Any other: its rows, then its control arrays below them.
+  // on the right. Any other: its rows, then its control arrays below them or, with a table of
+  // arrays, beside them.
   bool avecOnglets = false;
   for (auto& [nom, c] : etat_.Controles())
     if (dynamic_cast<Onglets*>(c)) avecOnglets = true;
@@ -802,6 +864,15 @@ void DialogueQt::Construit() {
     droite->addLayout(grille_);
     droite->addStretch();
     corps->addLayout(droite, 2);
+  } else if (!etat_.GrilleTableaux.empty()) {
+    // A dialog with a table of arrays: its rows on the left, the table and the other arrays in
+    // a column on the right.
+    auto* gauche = new QVBoxLayout;
+    gauche->addLayout(grille_);
+    gauche->addStretch();
+    corps->addLayout(gauche, 1);
+    cadreTableaux = new QVBoxLayout;
+    corps->addLayout(cadreTableaux, 1);
   } else {
     auto* gauche = new QVBoxLayout;
     gauche->addLayout(grille_);
@@ -814,7 +885,10 @@ void DialogueQt::Construit() {
   for (auto& [nom, c] : etat_.Controles()) AjouteControle(nom, c);
   ChoisitGrille(-1);
   for (QGridLayout* page : pages_) page->setRowStretch(lignes_[page], 1);
-  for (const std::string& t : etat_.NomsTableaux()) ConstruitTableau(t, cadreTableaux);
+  if (!etat_.GrilleTableaux.empty()) ConstruitGrille(cadreTableaux);
+  for (const std::string& t : etat_.NomsTableaux())
+    if (std::find(etat_.GrilleTableaux.begin(), etat_.GrilleTableaux.end(), t) == etat_.GrilleTableaux.end())
+      ConstruitTableau(t, cadreTableaux);
   principal->addStretch();
   principal->addWidget(boutonsBas_);
   DonneTouchesDAcces();

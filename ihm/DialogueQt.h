@@ -51,6 +51,7 @@ class DialogueQt : public QDialog {
   // Makes the grid of a page of the tab control (-1: the dialog's own) the one rows go to.
   void ChoisitGrille(int onglet);
   void ConstruitTableau(const std::string& nom, QBoxLayout* cadre);
+  void ConstruitGrille(QBoxLayout* cadre);
   QHBoxLayout* LigneCourante();
   void FinDeLigne();
   void DonneTouchesDAcces();

@@ -166,6 +166,10 @@ struct Dialogue {
       if (n == nom) return f(indice);
     return nullptr;
   }
+  // Control arrays shown together as the columns of one table, a row an index, each row labelled
+  // by the caption of the first array's element; and the table's title.
+  std::vector<std::string> GrilleTableaux;
+  std::string TitreGrille;
   // The title of a control array follows the caption of a control (a label that changes).
   void TitreTableau(const std::string& nom, const Controle& titre) { titres_.emplace_back(nom, &titre); }
   const Controle* TitreDe(const std::string& nom) const {
