@@ -6,7 +6,8 @@ set -euo pipefail
 paquets=(
   cmake make g++ pkg-config
   qt6-base-dev qt6-base-dev-tools libgl-dev
-  qt6-charts-dev libqt6opengl6-dev
+  qt6-charts-dev libqt6opengl6-dev qt6-svg-dev
+  libzip-dev
   libgtest-dev libgmock-dev googletest libbenchmark-dev
   libtinygltf-dev
   qt6-translations-l10n

@@ -12,6 +12,10 @@
 #include "graphe/Inscriptions.h"
 #include "graphe/Modifications.h"
 #include "graphe/Modes.h"
+#include "image/Exploration.h"
+#include "image/Impression.h"
+#include "image/Rapport.h"
+#include "image/Vectoriel.h"
 #include "noyau/Def.h"
 #include "noyau/Orva.h"
 #include "noyau/Registre.h"
@@ -58,12 +62,17 @@ const Liaison kLiaisons[] = {
     {"menFichierOriginesDestinations", menFichierOriginesDestinations},
     {"menLectFichFacettes", menLectFichFacettes},
     {"menFichiersGraphe", menFichiersGraphe},
+    {"menExploration", menExploration},
     {"menSortie", menSortie},
     {"menAngles", menAngles},
     {"menZoomSouris", menZoomSouris},
     {"menParamAffichage", menParamAffichage},
     {"menZoomBarreOutils", menZoomBarreOutils},
     {"menImageVectorielle", menImageVectorielle},
+    {"menImprimeImage", menImprimeImage},
+    {"menEnregistreSVG", menEnregistreSVG},
+    {"menEnregistrePDF", menEnregistrePDF},
+    {"menCopieImage", menCopieImage},
     {"menRedessine", menRedessine},
     {"menOptionsRedessine", menOptionsRedessine},
     {"menEffaceImage", menEffaceImage},
@@ -143,6 +152,7 @@ void EnregistreTout() {
   EnregistreFacettes();
   EnregistreAnamorphose();
   EnregistreSortieDXF();
+  EnregistreRapport();
   // The lift of the arc layer is the relief's valuation.
   ValuationDesArcs = HauteurArc;
   for (const Liaison& l : kLiaisons) LieMenu(l.menu, l.commande);
@@ -175,6 +185,7 @@ void EnregistreRoutines() {
   r.emplace("CalculeCoutsFrance", [] { CalculeCoutsFrance(); });
   r.emplace("CalculeCoutsAllemagne", [] { CalculeCoutsAllemagne(); });
   r.emplace("CalculeCoutsEspagne", [] { CalculeCoutsEspagne(); });
+  r.emplace("RapportTraitementTexte", [] { RapportTraitementTexte(); });
 }
 
 }  // namespace orva

@@ -87,16 +87,31 @@ QFont PoliceQt(const DescriptionPolice& d) {
   return f;
 }
 
-// One painter per operation, aliased: the image may be read or replaced between two calls.
+// One painter per operation on an image, aliased: the image may be read or replaced between two
+// calls. On a painter given from outside (a vector device), that painter: every operation sets
+// the pen, brush and font it uses.
 struct Peintre {
-  QPainter p;
+  QPainter propre;
+  QPainter* p;
   bool actif;
-  explicit Peintre(QImage* image) : actif(image && !image->isNull() && p.begin(image)) {
-    if (actif) p.setRenderHint(QPainter::Antialiasing, false);
+  bool externe;
+  Peintre(QImage* image, QPainter* dehors) : p(dehors ? dehors : &propre), externe(dehors != nullptr) {
+    if (externe) {
+      actif = dehors->isActive();
+    } else {
+      actif = image && !image->isNull() && propre.begin(image);
+      if (actif) propre.setRenderHint(QPainter::Antialiasing, false);
+    }
   }
+  Peintre(const Peintre&) = delete;
+  Peintre& operator=(const Peintre&) = delete;
 };
 
 }  // namespace
+
+ContexteRaster::ContexteRaster(QPainter* peintre) : ContexteRaster(static_cast<QImage*>(nullptr)) {
+  peintre_ = peintre;
+}
 
 ContexteRaster::ContexteRaster(QImage* image)
     : image_(image),
@@ -136,10 +151,10 @@ void ContexteRaster::MoveToEx(int x, int y) {
 }
 
 void ContexteRaster::LineTo(int x, int y) {
-  Peintre d(image_);
+  Peintre d(image_, peintre_);
   if (d.actif) {
-    d.p.setPen(StyloQt(Resous(stylo_, StyloNoir)));
-    d.p.drawLine(x_, y_, x, y);
+    d.p->setPen(StyloQt(Resous(stylo_, StyloNoir)));
+    d.p->drawLine(x_, y_, x, y);
   }
   x_ = x;
   y_ = y;
@@ -147,23 +162,23 @@ void ContexteRaster::LineTo(int x, int y) {
 
 void ContexteRaster::Polyline(const std::vector<PointI>& points) {
   if (points.size() < 2) return;
-  Peintre d(image_);
+  Peintre d(image_, peintre_);
   if (!d.actif) return;
   QPolygon q;
   for (const PointI& pt : points) q << QPoint(pt.x, pt.y);
-  d.p.setPen(StyloQt(Resous(stylo_, StyloNoir)));
-  d.p.drawPolyline(q);
+  d.p->setPen(StyloQt(Resous(stylo_, StyloNoir)));
+  d.p->drawPolyline(q);
 }
 
 void ContexteRaster::Polygon(const std::vector<PointI>& points) {
   if (points.size() < 2) return;
-  Peintre d(image_);
+  Peintre d(image_, peintre_);
   if (!d.actif) return;
   QPolygon q;
   for (const PointI& pt : points) q << QPoint(pt.x, pt.y);
-  d.p.setPen(StyloQt(Resous(stylo_, StyloNoir)));
-  d.p.setBrush(BrosseQt(Resous(brosse_, BrosseBlanche)));
-  d.p.drawPolygon(q, Qt::OddEvenFill);
+  d.p->setPen(StyloQt(Resous(stylo_, StyloNoir)));
+  d.p->setBrush(BrosseQt(Resous(brosse_, BrosseBlanche)));
+  d.p->drawPolygon(q, Qt::OddEvenFill);
 }
 
 // The box of two corners in either order, with the pen and brush in force; it leaves out its
@@ -172,11 +187,11 @@ template <class F>
 void ContexteRaster::DessineBoite(int x1, int y1, int x2, int y2, F&& dessine) {
   int g = std::min(x1, x2), d = std::max(x1, x2), h = std::min(y1, y2), b = std::max(y1, y2);
   if (d - g < 1 || b - h < 1) return;
-  Peintre p(image_);
+  Peintre p(image_, peintre_);
   if (!p.actif) return;
-  p.p.setPen(StyloQt(Resous(stylo_, StyloNoir)));
-  p.p.setBrush(BrosseQt(Resous(brosse_, BrosseBlanche)));
-  dessine(p.p, QRect(g, h, d - g - 1, b - h - 1));
+  p.p->setPen(StyloQt(Resous(stylo_, StyloNoir)));
+  p.p->setBrush(BrosseQt(Resous(brosse_, BrosseBlanche)));
+  dessine(*p.p, QRect(g, h, d - g - 1, b - h - 1));
 }
 
 void ContexteRaster::Ellipse(int x1, int y1, int x2, int y2) {
@@ -189,14 +204,14 @@ void ContexteRaster::Rectangle(int x1, int y1, int x2, int y2) {
 
 void ContexteRaster::TextOut(int x, int y, const std::string& texte) {
   if (texte.empty() || !TexteDessinable()) return;
-  Peintre p(image_);
+  Peintre p(image_, peintre_);
   if (!p.actif) return;
   ObjetGdi police = Resous(police_, PoliceSysteme);
   QFont f = PoliceQt(police.Police);
-  p.p.setFont(f);
-  p.p.setPen(QColor::fromRgb(VersRgbQt(couleurTexte_())));
-  QFontMetrics m(f, image_);
-  p.p.drawText(x, y + m.ascent(), QString::fromStdString(texte));
+  p.p->setFont(f);
+  p.p->setPen(QColor::fromRgb(VersRgbQt(couleurTexte_())));
+  QFontMetrics m = peintre_ ? QFontMetrics(f) : QFontMetrics(f, image_);
+  p.p->drawText(x, y + m.ascent(), QString::fromStdString(texte));
 }
 
 }  // namespace orva

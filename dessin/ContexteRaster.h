@@ -1,8 +1,12 @@
 // The raster context: draws on a QImage (Format_RGB32) with the platform's geometry, no
-// antialiasing. Coordinates come as integers: the logic has rounded them already.
+// antialiasing; or, with the same pens, brushes and fonts, on the painter of a vector device
+// (SVG, PDF), whose own hints it keeps. Coordinates come as integers: the logic has rounded them
+// already.
 #pragma once
 #include <QImage>
 #include <functional>
+
+class QPainter;
 
 #include "dessin/Contexte.h"
 
@@ -12,6 +16,8 @@ class ContexteRaster : public Contexte {
  public:
   // Draws on *image, which must outlive the context (it may be replaced by assignment).
   explicit ContexteRaster(QImage* image);
+  // Draws with *peintre, active on its device for the life of the context.
+  explicit ContexteRaster(QPainter* peintre);
 
   Objet SelectObject(Objet o) override;
   Objet GetStockObject(int n) override;
@@ -33,6 +39,7 @@ class ContexteRaster : public Contexte {
   template <class F>
   void DessineBoite(int x1, int y1, int x2, int y2, F&& dessine);
   QImage* image_;
+  QPainter* peintre_ = nullptr;
   Objet stylo_, brosse_, police_, policeDefaut_;
   std::function<Couleur()> couleurTexte_;
   int x_ = 0, y_ = 0;

@@ -38,6 +38,8 @@ const Entree kMenus[] = {
     {"menImage", "menZoomBarreOutils", "&Barre d'outils zoom visible"},
     {"menImage", "menImageVectorielle", "Image &vectorielle"},
     {"menImage", "menImprimeImage", "&Enregistre l'image..."},
+    {"menImage", "menEnregistreSVG", "Enregistrer l'image en &SVG..."},
+    {"menImage", "menEnregistrePDF", "Enregistrer l'image en &PDF..."},
     {"menImage", "menCopieImage", "&Copie l'image (dans le presse-papiers)"},
     {"menImage", "menCréeFichDXF", "Crée un fichier D&XF..."},
     {"menImage", "menChargeImageFond", "Charge une &image en fond..."},

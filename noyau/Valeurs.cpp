@@ -15,6 +15,7 @@ void ReinitialiseValeurs() {
   NbArcVal1 = NbArcVal2 = 0;
   Classes.ReDim(1, 1);
   NbClasses = 1;
+  TypeClasses = "Valeur1";
 }
 
 void EnregistreTablesValeurs() {
@@ -22,6 +23,7 @@ void EnregistreTablesValeurs() {
   EnregistreReglage("NbArcVal1", NbArcVal1);
   EnregistreReglage("NbArcVal2", NbArcVal2);
   EnregistreReglage("NbClasses", NbClasses);
+  EnregistreReglage("TypeClasses", TypeClasses);
   TableNommee& f = EnregistreTable("NoeudValFichier", NoeudValFichier);
   AjouteChamp(f, NoeudValFichier, "Code", &NoeudValeurFichier::Code);
   AjouteChamp(f, NoeudValFichier, "Valeur1", &NoeudValeurFichier::Valeur1);

@@ -3,6 +3,7 @@
 // table of the thematic images.
 #pragma once
 #include <cstdint>
+#include <string>
 
 #include "noyau/Tableau.h"
 
@@ -57,6 +58,9 @@ struct ClasseVal {
 };
 inline Tableau<ClasseVal> Classes;  // 1..NbClasses
 inline int16_t NbClasses = 1;
+// The kind of the values the classes were made for ("Valeur1", "Différences absolues"...), as
+// chosen in Statistiques; "Référence" marks the reference map that ends a report.
+inline std::string TypeClasses;
 
 // The tables as before start-up: empty, at their fixed sizes.
 void ReinitialiseValeurs();

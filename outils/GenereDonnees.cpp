@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "image/Rapport.h"
 #include "noyau/Erreurs.h"
 #include "outils/Donnees.h"
 
@@ -35,6 +36,9 @@ void EcritArbre(const std::string& sources, const std::string& racine) {
   ReseauRegional(villes, actuel, ancien);
   EcritNoeudsEtArcsCourts(actuel, chemin("vil/vil02.dat"), chemin("od/od314.dat"));
   EcritArcsCourts(ancien, chemin("od/od313.dat"));
+
+  // The templates of the report, in the folder of maps.
+  if (!orva::EcritModelesRapport(chemin("cartes"))) orva::Leve(orva::ErrChemin);
 }
 
 int Usage() {

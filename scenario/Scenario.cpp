@@ -5,6 +5,7 @@
 #include <iostream>
 
 #include "image/ExportImage.h"
+#include "image/Vectoriel.h"
 #include "noyau/Fichiers.h"
 #include "relief/ExportGltf.h"
 #include "scenario/Executeur.h"
@@ -16,7 +17,7 @@ void InstalleCrochetsParDefaut() {
   if (!CrochetSourisEnfoncee) CrochetSourisEnfoncee = ImaMouseDown;
   if (!CrochetSourisDeplacee) CrochetSourisDeplacee = ImaMouseMove;
   if (!CrochetSourisRelachee) CrochetSourisRelachee = ImaMouseUp;
-  if (!CrochetImage) CrochetImage = EcritImageFichier;
+  if (!CrochetImage) CrochetImage = EcritImageScenario;
   if (!CrochetGltf) CrochetGltf = EcritReliefGltf;
   if (!CrochetMetafichier)
     CrochetMetafichier = [](const std::string& fichier, long largeur, long hauteur) {

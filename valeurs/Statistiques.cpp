@@ -93,6 +93,7 @@ void Termine() {
 // An option of the values: computed, sorted and sized in its kind, the preview redrawn.
 void ChoisitGenre() {
   const std::string genre = GenreChoisi();
+  TypeClasses = genre;
   CalculeValeursNoeuds(genre);
   TrieNoeudVals();
   DimensionneRonds(genre);

@@ -9,6 +9,8 @@
 #include <QChart>
 #include <QChartView>
 #include <QCheckBox>
+#include <QClipboard>
+#include <QMimeData>
 #include <QGroupBox>
 #include <QTabWidget>
 #include <QComboBox>
@@ -153,6 +155,8 @@ const EntreeAttendue kMenus[] = {
     {"menImage", "menZoomBarreOutils", "&Barre d'outils zoom visible"},
     {"menImage", "menImageVectorielle", "Image &vectorielle"},
     {"menImage", "menImprimeImage", "&Enregistre l'image..."},
+    {"menImage", "menEnregistreSVG", "Enregistrer l'image en &SVG..."},
+    {"menImage", "menEnregistrePDF", "Enregistrer l'image en &PDF..."},
     {"menImage", "menCopieImage", "&Copie l'image (dans le presse-papiers)"},
     {"menImage", "menCréeFichDXF", "Crée un fichier D&XF..."},
     {"menImage", "menChargeImageFond", "Charge une &image en fond..."},
@@ -344,6 +348,23 @@ TEST_F(Ihm, RedessineEtEffaceImage) {
   EXPECT_EQ(OptionsRedess.AfficheNomsNoeuds.Value, 1);
   Enfant<QPushButton>(options, "Command3D1")->click();
   EXPECT_FALSE(options->isVisible());
+}
+
+// "Copie l'image": the recording of the view on the clipboard as a metafile and as a picture.
+TEST_F(Ihm, CopieDeLImageDansLePressePapiers) {
+  Clique("menImageVectorielle");
+  Clique("menRedessine");
+  Clique("menCopieImage");
+  const QMimeData* donnees = QApplication::clipboard()->mimeData();
+  ASSERT_NE(donnees, nullptr);
+  ASSERT_TRUE(donnees->hasFormat("image/x-wmf"));
+  const QByteArray wmf = donnees->data("image/x-wmf");
+  ASSERT_GT(wmf.size(), 100);
+  EXPECT_EQ(static_cast<uint8_t>(wmf[0]), 1);  // a metafile in memory
+  ASSERT_TRUE(donnees->hasImage());
+  const QImage image = qvariant_cast<QImage>(donnees->imageData());
+  EXPECT_EQ(image.width(), static_cast<int>(ImaVec.ScaleWidth()));
+  EXPECT_GT(PixelsNonBlancs(image), 1000);
 }
 
 TEST_F(Ihm, AnglesValidePuisAnnuleParLaFermeture) {
