@@ -11,6 +11,12 @@
 #include "graphe/Inscriptions.h"
 #include "graphe/Modifications.h"
 #include "graphe/Modes.h"
+#include "horaires/Developpement.h"
+#include "horaires/Horaires.h"
+#include "horaires/HorairesArcs.h"
+#include "horaires/HorairesNoeuds.h"
+#include "horaires/Trains.h"
+#include "horaires/Verification.h"
 #include "noyau/Def.h"
 #include "noyau/Orva.h"
 #include "noyau/Registre.h"
@@ -94,6 +100,8 @@ const Liaison kLiaisons[] = {
     {"menOptionsAttractions", menOptionsAttractions},
     {"menTraceTrajets", menTraceTrajets},
     {"menCouleursNoeuds", menCouleursNoeuds},
+    {"menDéveloppmentHoraire", menDeveloppmentHoraire},
+    {"menOptimisationHoraire", menOptimisationHoraire},
     {"menArcsTrajets", menArcsTrajets},
     {"menArcsAttractions", menArcsAttractions},
     {"menTraceRelief", menTraceRelief},
@@ -121,6 +129,7 @@ void EnregistreTout() {
   // The dialogs, in the order of the table of dialogs.
   EnregistreModifArcs();
   EnregistreModifNoeuds();
+  EnregistreHoraires();
   EnregistreAngles();
   EnregistreFrmAnamorphose();
   EnregistreTraceArcs();
@@ -172,6 +181,14 @@ void EnregistreRoutines() {
   r.emplace("CalculeCoutsFrance", [] { CalculeCoutsFrance(); });
   r.emplace("CalculeCoutsAllemagne", [] { CalculeCoutsAllemagne(); });
   r.emplace("CalculeCoutsEspagne", [] { CalculeCoutsEspagne(); });
+  r.emplace("AfficheHorairesArcs", [] { AfficheHorairesArcs(); });
+  r.emplace("AfficheTrain", [] { AfficheTrain(); });
+  r.emplace("AfficheHorairesNoeud", [] { AfficheHorairesNoeud(); });
+  r.emplace("DeveloppeHoraires", [] { DeveloppeHoraires(); });
+  r.emplace("DeveloppeHorairesParLigne", [] { DeveloppeHorairesParLigne(); });
+  r.emplace("OptimiseHoraires", [] { OptimiseHoraires(); });
+  r.emplace("DetecteErreursHoraires", [] { DetecteErreursHoraires(); });
+  r.emplace("SelectionneTousSiAucun", [] { SelectionneTousSiAucun(); });
 }
 
 }  // namespace orva
