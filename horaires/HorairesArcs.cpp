@@ -17,6 +17,9 @@ namespace {
 
 constexpr const char* kNom = "HorairesArcs";
 
+// The text of the row the last listing added last (the platform's NewIndex of the list).
+std::string derniereAjoutee;
+
 // Restores the result boxes of EliminationArcs however a command ends.
 struct EliminationsSilencieuses {
   EliminationsSilencieuses() { MessagesElimination = Faux; }
@@ -91,6 +94,7 @@ void AfficheHorairesArcs() {
   NoeudOrigine = ModifArcs.ListeModifiable1.ListIndex;
   NoeudDestination = CInt(ModifArcs.ListeModifiable2.ListIndex);
   d.ListeHoraires.Clear();
+  derniereAjoutee.clear();
   const long origine = static_cast<long>(NoeudOrigine);
   std::string titre = Left(Noeuds[origine].Nom.s, 12) + "  " + Left(Noeuds[NoeudDestination].Nom.s, 12) + " en " +
                       ModeCourant.Nom;
@@ -104,12 +108,13 @@ void AfficheHorairesArcs() {
     const bool inverse = a.IndiceOrigine == NoeudDestination && a.IndiceDestination == origine;
     if (!sens && !inverse) continue;
     if (a.Orientation == 0) {
-      d.ListeHoraires.AddItem(LigneHoraire(i));
+      derniereAjoutee = LigneHoraire(i);
     } else if (sens) {
-      d.ListeHoraires.AddItem(LigneHoraire(i) + "  " + VientDe(a, mode));
+      derniereAjoutee = LigneHoraire(i) + "  " + VientDe(a, mode);
     } else {
       continue;  // a timetable arc belongs to its own direction
     }
+    d.ListeHoraires.AddItem(derniereAjoutee);
     nombre += 1;
     somme += DureeHoraire(Arcs[i]);
   }
@@ -149,10 +154,15 @@ void NouvelHoraire() {
             CSng(arrivee - depart), CInt(depart), CInt(arrivee), "", CSng(Val(m.Debit.Text)), CSng(Val(m.Capacite.Text)));
   d.ListeHoraires.AddItem(LigneHoraire(NbArcs));
   AfficheHorairesArcs();
-  const int dernier = d.ListeHoraires.ListCount() - 1;
-  d.ListeHoraires.Choisit(dernier);
-  d.ListeHoraires.Selected.assign(d.ListeHoraires.Lignes.size(), false);
-  if (dernier >= 0) d.ListeHoraires.Selected[static_cast<std::size_t>(dernier)] = true;
+  // The row added last is selected, that is the new run's (its arc is the last of the array),
+  // and its click replayed.
+  Liste& l = d.ListeHoraires;
+  int rang = -1;
+  for (int k = 0; k < l.ListCount(); ++k)
+    if (l.Lignes[static_cast<std::size_t>(k)] == derniereAjoutee) rang = k;
+  l.Choisit(rang);
+  l.Selected.assign(l.Lignes.size(), false);
+  if (rang >= 0) l.Selected[static_cast<std::size_t>(rang)] = true;
   ListeHorairesClic();
 }
 
