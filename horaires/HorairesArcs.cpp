@@ -167,6 +167,8 @@ void NouvelHoraire() {
 }
 
 void SupprimeHoraire() {
+  // No row clicked yet: nothing to remove (an empty row would read as the times 00:00).
+  if (HorairesArcs.LigneSelectionnee.empty()) return;
   EtatModifArcs& m = ModifArcs;
   const HeuresDeLigne h = LitHeures(HorairesArcs.LigneSelectionnee);
   const int32_t codeOrigine = Noeuds[m.ListeModifiable1.ListIndex].Code;

@@ -81,10 +81,12 @@ void DecaleTrain(const std::string& verbe, const std::string& titre, const std::
   const int precedente = HorairesArcs.ListeHoraires.ListIndex;
   for (const std::string& ligne : LignesChoisies()) {
     const Arc a = Arcs[ArcDeLigneTrain(ligne)];  // read before the removal: Jours and the rest survive
+    // The new times first: a shift beyond 16 bits ends the command with the run still in place.
+    const int16_t depart = CInt(a.Depart + d), arrivee = CInt(a.Arrivee + d);
     EliminationsSilencieuses silence;
     EliminationArcs(a.CodeOrigine, a.CodeDestination, ModeCourant.Code, a.Depart, a.Arrivee);
     AjouteArc(a.CodeOrigine, a.CodeDestination, a.IndiceOrigine, a.IndiceDestination, ModeCourant.Code, a.Longueur,
-              a.Temps, CInt(a.Depart + d), CInt(a.Arrivee + d), a.Jours.s, a.Debit, a.Capacite);
+              a.Temps, depart, arrivee, a.Jours.s, a.Debit, a.Capacite);
   }
   ImplementeIndicesArcs();
   AfficheHorairesArcs();

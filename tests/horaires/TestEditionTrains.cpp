@@ -102,6 +102,13 @@ TEST_F(EditionTrains, AvancerEtReculer) {
   RechercheDescendante = Faux;
   ReculeTrain();
   EXPECT_EQ(Courses().back(), "A-B -01:44--01:74 1111100");
+  // Beyond 16 bits: the overflow ends the command and the run stays where it was.
+  const long avant = NbArcs;
+  Choisit({0});
+  horaires.saisies = {"40000"};
+  RechercheDescendante = Faux;
+  EXPECT_EQ(ErreurDe(AvanceTrain), ErrDepassement);
+  EXPECT_EQ(NbArcs, avant);
 }
 
 TEST_F(EditionTrains, SupprimerEtPressePapiers) {

@@ -158,6 +158,12 @@ TEST_F(Listing, NouveauSupprimerModifier) {
   EXPECT_EQ(Arcs[NbArcs].Orientation, Faux);
   const long avant = NbArcs;
 
+  // "Supprimer" before any row is clicked removes nothing, not even the arc of times 00:00.
+  HorairesArcs.LigneSelectionnee.clear();
+  horaires.boites.clear();
+  SupprimeHoraire();
+  EXPECT_EQ(NbArcs, avant);
+  EXPECT_TRUE(horaires.boites.empty());
   // "Supprimer" takes the arc of the row last clicked, and reports.
   AfficheHorairesArcs();
   ChoisitRang(HorairesArcs.ListeHoraires, 4);  // 09:03 - 09:55
