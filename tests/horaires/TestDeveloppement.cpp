@@ -103,25 +103,6 @@ TEST_F(Developpement, UneLigneEnFinDeTableauLitAuDela) {
   EXPECT_EQ(NbArcs, 2);
 }
 
-TEST_F(Developpement, MenuEtBouton) {
-  Villes({"A", "B", "C"});
-  Horaire(1, 2, 900, 930, ter, 1);
-  Horaire(2, 3, 930, 1000, ter, 1);
-  Horaire(1, 3, 0, 0, CodeMode("Route70"));
-  Orva.Menu("menOptimisationHoraire")->Enabled = false;
-  // The button leaves the indices of the new arcs at 0; the menu entry rebuilds them.
-  DeveloppeDepuisHorairesArcs();
-  EXPECT_EQ(NbArcs, 6);
-  EXPECT_EQ(Arcs[5].IndiceOrigine, 0);
-  EXPECT_TRUE(HorairesArcs.Optimise.Enabled);
-  EXPECT_TRUE(Orva.Menu("menOptimisationHoraire")->Enabled);
-  EXPECT_EQ(Orva.StatusBar[2], "6 arcs ");
-  menDeveloppmentHoraire();
-  EXPECT_EQ(NbArcs, 9);
-  EXPECT_EQ(Arcs[5].IndiceOrigine, 1);
-  EXPECT_EQ(Arcs[9].IndiceDestination, 3);
-}
-
 class Optimisation : public HorairesTest {
  protected:
   std::vector<std::string> Restants() const {
@@ -151,45 +132,6 @@ TEST_F(Optimisation, LesNoeudsQuiRestent) {
   EXPECT_EQ(Orva.StatusBar[1], "2 noeuds ");
   EXPECT_EQ(Orva.StatusBar[2], "1 arcs ");
   EXPECT_EQ(Arcs[1].IndiceOrigine, 1);  // the indices follow the removals
-}
-
-TEST_F(Optimisation, AvecAccordNoeudParNoeud) {
-  Villes({"A", "B", "C"});
-  Horaire(1, 2, 900, 930);
-  Horaire(2, 3, 930, 1000);
-  Horaire(3, 2, 1100, 1130);
-  Horaire(2, 1, 1130, 1200);
-  // Ask: A is a terminus and not asked for; B, where the trains pass, goes; C, left with no
-  // arc, is asked for once and kept.
-  horaires.reponses = {Reponse::Oui, Reponse::Oui, Reponse::Non};
-  OptimiseHoraires();
-  ASSERT_EQ(horaires.boites.size(), 3u);
-  EXPECT_EQ(horaires.boites[1].texte, "Etes-vous d'accord pour éliminer le noeud B ?");
-  EXPECT_EQ(horaires.boites[1].boutons, Boutons::OuiNon);
-  EXPECT_EQ(horaires.boites[2].texte, "Etes-vous d'accord pour éliminer le noeud C ?");
-  EXPECT_EQ(Restants(), (std::vector<std::string>{"A", "C"}));
-  EXPECT_EQ(NbArcs, 0);
-}
-
-TEST_F(Optimisation, ApresDeveloppementLesTerminusEtLeursArcsDirects) {
-  Villes({"A", "B", "C", "D"});
-  Horaire(1, 2, 900, 930);
-  Horaire(2, 3, 930, 1000);
-  Horaire(3, 4, 1000, 1030);
-  Horaire(4, 3, 1100, 1130);
-  Horaire(3, 2, 1130, 1200);
-  Horaire(2, 1, 1200, 1230);
-  menDeveloppmentHoraire();
-  horaires.reponses = {Reponse::Non};
-  menOptimisationHoraire();
-  EXPECT_EQ(Restants(), (std::vector<std::string>{"A", "D"}));
-  EXPECT_EQ(NbArcs, 2);
-  EXPECT_EQ(Arcs[1].IndiceOrigine, 1);
-  EXPECT_EQ(Arcs[1].IndiceDestination, 2);
-  EXPECT_EQ(Arcs[1].Depart, 540);
-  EXPECT_EQ(Arcs[1].Arrivee, 630);
-  EXPECT_FALSE(HorairesArcs.Optimise.Enabled);
-  EXPECT_EQ(HorairesOptimises, Vrai);
 }
 
 }  // namespace

@@ -1,7 +1,5 @@
-// The commands of the dialog Trains (duplicate, shift, remove, copy) and the timetables of a
-// node with their way back to an arc.
+// Duplicates and shifts of a train: the times of the copies and of the runs moved.
 #include "horaires/CommunHoraires.h"
-#include "horaires/HorairesNoeuds.h"
 
 namespace orva {
 namespace {
@@ -39,24 +37,6 @@ class EditionTrains : public HorairesTest {
     return r;
   }
 };
-
-TEST_F(EditionTrains, SansSelectionOuAnnule) {
-  const long avant = NbArcs;
-  DupliqueTrain();
-  ASSERT_EQ(horaires.boites.size(), 1u);
-  EXPECT_EQ(horaires.boites[0].titre, "Dupliquer un train");
-  EXPECT_EQ(horaires.boites[0].texte, "Pour dupliquer un train il est nécessaire de sélectionner des horaires.");
-  ReculeTrain();
-  EXPECT_EQ(horaires.boites[1].texte, "Pour reculer un train il est nécessaire de sélectionner des horaires.");
-  Choisit({0, 2});
-  horaires.reponses = {Reponse::Annuler};
-  SupprimeTrain();
-  EXPECT_EQ(horaires.boites[2].titre, "Supprimer un train");
-  EXPECT_EQ(horaires.boites[2].texte, "Vous avez sélectionné 2 horaires sur 3.");
-  EXPECT_EQ(horaires.boites[2].boutons, Boutons::OKAnnuler);
-  EXPECT_EQ(NbArcs, avant);
-  EXPECT_TRUE(horaires.demandes.empty());
-}
 
 TEST_F(EditionTrains, Dupliquer) {
   Choisit({0, 1, 2});
@@ -109,79 +89,6 @@ TEST_F(EditionTrains, AvancerEtReculer) {
   RechercheDescendante = Faux;
   EXPECT_EQ(ErreurDe(AvanceTrain), ErrDepassement);
   EXPECT_EQ(NbArcs, avant);
-}
-
-TEST_F(EditionTrains, SupprimerEtPressePapiers) {
-  Choisit({0, 2});
-  Trains.ListeTrains.ListIndex = 1;
-  TesteTrains();
-  // The focused row, once for each row selected.
-  EXPECT_EQ(TextePressePapiers, "\n" + Trains.ListeTrains.Lignes[1] + "\n" + Trains.ListeTrains.Lignes[1]);
-  Choisit({0, 1, 2});
-  SupprimeTrain();
-  EXPECT_TRUE(Courses().empty());
-  // The dialog keeps its rows until the train is built again.
-  EXPECT_EQ(Trains.ListeTrains.ListCount(), 3);
-  EXPECT_EQ(HorairesArcs.ListeHoraires.ListCount(), 0);
-}
-
-TEST_F(EditionTrains, DoubleClicSurUneRangee) {
-  ChoisitRang(Trains.ListeTrains, 2);  // C - D
-  ListeTrainsDoubleClic();
-  EXPECT_EQ(ModifArcs.ListeModifiable1.ListIndex, 3);
-  EXPECT_EQ(ModifArcs.ListeModifiable2.ListIndex, 4);
-  EXPECT_EQ(HorairesArcs.ListeHoraires.ListIndex, 0);
-  EXPECT_EQ(Left(HorairesArcs.LigneSelectionnee, 5), "10:00");
-  EXPECT_TRUE(HorairesArcs.Modifier.Enabled);
-}
-
-TEST_F(EditionTrains, HorairesDUnNoeud) {
-  Horaire(2, 1, 1200, 1230);
-  Horaire(2, 3, 0, 0);  // no timetable
-  Horaire(1, 4, 0, 0, CodeMode("Avion"));
-  ModifNoeuds.ListeModifiable1.ListIndex = 2;  // B
-  HorairesNoeuds.HDeparts.Value = true;
-  HorairesNoeuds.HArrivees.Value = false;
-  AfficheHorairesNoeud();
-  const Liste& l = HorairesNoeuds.ListeHorairesNoeud;
-  EXPECT_EQ(l.Lignes, (std::vector<std::string>{
-                          "00:00     00:00       1111100      L00  C         ",
-                          "09:30     10:00       1111100   30    L00  C           (A      )",
-                          "12:00     12:30       1111100   30    L00  A           (      B      )"}));
-  EXPECT_EQ(HorairesNoeuds.DepartDe.Caption, "De B" + Space(19) + " en TER  (3 HorairesNoeuds)");
-  EXPECT_TRUE(HorairesNoeuds.Visible);
-  for (const std::string& ligne : {l.Lignes[1], l.Lignes[2]}) {
-    const long a = ArcDeLigneNoeud(ligne);
-    ASSERT_NE(a, 0);
-    EXPECT_EQ(LigneHoraire(a), Left(ligne, 41));
-  }
-  // Arrivals: the arrival first, the departure in brackets, the stop after.
-  HorairesNoeuds.HDeparts.Value = false;
-  HorairesNoeuds.HArrivees.Value = true;
-  AfficheHorairesNoeud();
-  EXPECT_EQ(l.Lignes, (std::vector<std::string>{"00:00     00:00       1111100      L00  C         ",
-                                                "09:30   (09:00)     1111100   30    L00  A           (C      )"}));
-  EXPECT_EQ(Left(HorairesNoeuds.DepartDe.Caption, 6), "Vers B");
-  const long a = ArcDeLigneNoeud(l.Lignes[1]);
-  EXPECT_EQ(a, 1);
-  // A double click shows the train of the run.
-  ChoisitRang(HorairesNoeuds.ListeHorairesNoeud, 1);
-  HorairesNoeuds.ListeHorairesNoeud.DblClick();
-  EXPECT_EQ(Trains.ListeTrains.ListCount(), 3);
-  EXPECT_EQ(Left(Trains.Info.Caption, 18), "De A          à D ");
-}
-
-TEST_F(EditionTrains, EnTetesDesOptions) {
-  ModifNoeuds.ListeModifiable1.ListIndex = 2;
-  HorairesNoeuds.HArrivees.Value = true;
-  HorairesNoeuds.HDeparts.Value = false;
-  HorairesNoeuds.HArrivees.Click();
-  EXPECT_EQ(HorairesNoeuds.Etiquette1.Caption, "H Arr, (H dép), Jours , Durée, Num Ligne, Vient de (Continue vers)");
-  HorairesNoeuds.HArrivees.Value = false;
-  HorairesNoeuds.HDeparts.Value = true;
-  HorairesNoeuds.HDeparts.Click();
-  EXPECT_EQ(HorairesNoeuds.Etiquette1.Caption, "H dép., H arr., Jours , Durée, Num ligne, Vers (Vient de)");
-  EXPECT_EQ(Left(HorairesNoeuds.DepartDe.Caption, 4), "De B");
 }
 
 }  // namespace

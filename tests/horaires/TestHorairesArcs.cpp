@@ -57,22 +57,6 @@ TEST_F(Listing, LigneAColonnesFixes) {
   EXPECT_EQ(LitHeures(LigneHoraire(nuit)).Arrivee, 1445);
 }
 
-TEST_F(Listing, PaireSansArc) {
-  Villes({"RENNES", "LAVAL"});
-  Horaire(1, 2, 700, 730, train);
-  Paire(1, 2);
-  AfficheHorairesArcs();
-  EXPECT_EQ(HorairesArcs.ListeHoraires.ListCount(), 0);
-  EXPECT_EQ(MoyenneHoraires, 0);
-  // Count and mean 0 print as nothing in "####".
-  EXPECT_EQ(HorairesArcs.OriDest.Caption,
-            "RENNES" + Space(6) + "  LAVAL" + Space(7) + " en TER  ( HorairesArcs, moyenne : )");
-  EXPECT_EQ(DialogueHorairesOuvert, Vrai);
-  EXPECT_TRUE(HorairesArcs.Visible);
-  EXPECT_FALSE(HorairesArcs.AfficheTrain.Enabled);
-  EXPECT_FALSE(HorairesArcs.Modifier.Enabled);
-}
-
 TEST_F(Listing, SensDesArcsEtProvenance) {
   Villes({"RENNES", "LAVAL", "LE MANS", "VITRE", "NANTES"});
   Horaire(1, 2, 700, 730);                 // Rennes - Laval: from nowhere
@@ -111,81 +95,6 @@ TEST_F(Listing, SommeSeizeBits) {
   Arcs[i].Orientation = Vrai;
   Paire(1, 2);
   EXPECT_EQ(ErreurDe(AfficheHorairesArcs), ErrDepassement);
-}
-
-TEST_F(Listing, NouveauSupprimerModifier) {
-  Villes({"RENNES", "LAVAL"});
-  Horaire(1, 2, 700, 730);
-  Paire(1, 2);
-  ModifArcs.Longueur.Text = "75.5";
-  ModifArcs.Debit.Text = "3";
-  ModifArcs.Capacite.Text = "200";
-  AfficheHorairesArcs();
-  horaires.saisies = {"0903", "0955"};
-  NouvelHoraire();
-  ASSERT_EQ(horaires.demandes.size(), 2u);
-  EXPECT_EQ(horaires.demandes[0].invite, "Entrez l'heure de départ : ");
-  EXPECT_EQ(horaires.demandes[0].titre, "Heure de départ (0903 pour 9:03)");
-  EXPECT_EQ(horaires.demandes[0].defaut, "0000");
-  EXPECT_EQ(horaires.demandes[1].invite, "Entrez l'heure de d'arrivée (>0903) : ");
-  EXPECT_EQ(horaires.demandes[1].titre, "Heure d'arrivée");
-  const Arc& a = Arcs[NbArcs];
-  EXPECT_EQ(a.Depart, 543);
-  EXPECT_EQ(a.Arrivee, 595);
-  EXPECT_EQ(a.Temps, 52);
-  EXPECT_EQ(a.Longueur, 75.5f);
-  EXPECT_EQ(a.Debit, 3);
-  EXPECT_EQ(a.Capacite, 200);
-  EXPECT_EQ(a.Jours.s, "       ");
-  EXPECT_EQ(a.Orientation, Vrai);
-  // The last row is selected and its click replayed.
-  EXPECT_EQ(HorairesArcs.ListeHoraires.ListIndex, 1);
-  EXPECT_EQ(HorairesArcs.LigneSelectionnee, "09:03     09:55" + Space(17) + "52    L03" + Space(8) + "RENNES ");
-  EXPECT_TRUE(HorairesArcs.Modifier.Enabled);
-
-  // Letters and an earlier arrival are taken as they are: 0 and a negative duration.
-  horaires.saisies = {"ab", "0030"};
-  NouvelHoraire();
-  EXPECT_EQ(Arcs[NbArcs].Depart, 0);
-  EXPECT_EQ(Arcs[NbArcs].Temps, 30);
-  horaires.saisies = {"0100", std::nullopt};  // "Annuler" is an empty answer
-  NouvelHoraire();
-  EXPECT_EQ(Arcs[NbArcs].Arrivee, 0);
-  EXPECT_EQ(Arcs[NbArcs].Temps, -60);
-  // Departure and arrival 0: no timetable, so no orientation.
-  horaires.saisies = {"", ""};
-  NouvelHoraire();
-  EXPECT_EQ(Arcs[NbArcs].Orientation, Faux);
-  const long avant = NbArcs;
-
-  // "Supprimer" before any row is clicked removes nothing, not even the arc of times 00:00.
-  HorairesArcs.LigneSelectionnee.clear();
-  horaires.boites.clear();
-  SupprimeHoraire();
-  EXPECT_EQ(NbArcs, avant);
-  EXPECT_TRUE(horaires.boites.empty());
-  // "Supprimer" takes the arc of the row last clicked, and reports.
-  AfficheHorairesArcs();
-  ChoisitRang(HorairesArcs.ListeHoraires, 4);  // 09:03 - 09:55
-  ASSERT_EQ(Left(HorairesArcs.LigneSelectionnee, 5), "09:03");
-  horaires.boites.clear();
-  SupprimeHoraire();
-  EXPECT_EQ(NbArcs, avant - 1);
-  ASSERT_EQ(horaires.boites.size(), 1u);
-  EXPECT_EQ(horaires.boites[0].titre, "Elimination des arcs");
-  EXPECT_EQ(horaires.boites[0].texte, "1 arc a été éliminé.\rNuméro de ligne : 2");
-
-  // "Modifier": the removal is silent, the new run comes at the end.
-  AfficheHorairesArcs();
-  ChoisitRang(HorairesArcs.ListeHoraires, 3);  // 07:00 - 07:30
-  horaires.boites.clear();
-  horaires.saisies = {"0705", "0740"};
-  ModifieHoraire();
-  EXPECT_TRUE(horaires.boites.empty());
-  EXPECT_EQ(MessagesElimination, Vrai);
-  EXPECT_EQ(NbArcs, avant - 1);
-  EXPECT_EQ(Arcs[NbArcs].Depart, 425);
-  for (long i = 1; i < NbArcs; ++i) EXPECT_NE(Arcs[i].Depart, 420);
 }
 
 }  // namespace

@@ -130,38 +130,6 @@ TEST_F(TrainsTest, PasseMinuitEtTriParTexte) {
   EXPECT_EQ(Left(Trains.Info.Caption, 29), "De LAVAL      à LAVAL      (1");
 }
 
-// Two runs arrive at one node at the same minute. The second is offered only when the test of
-// loops does not see the first: here the first has no duration, so its row does not read back.
-TEST_F(TrainsTest, DeuxTrainsALaMemeHeure) {
-  Villes({"LAVAL", "ANGERS", "LE MANS", "PARIS"});
-  const long sansDuree = Horaire(1, 3, 950, 1000, train);
-  Arcs[sansDuree].Temps = 0;
-  Horaire(2, 3, 940, 1000, train);
-  Horaire(3, 4, 1000, 1030, train);
-  Bouche();
-  horaires.reponses = {Reponse::Non};
-  Suit(3, 4, 1000, "Train");
-  ASSERT_EQ(horaires.boites.size(), 1u);
-  EXPECT_EQ(horaires.boites[0].titre, "Deux trains");
-  EXPECT_EQ(horaires.boites[0].boutons, Boutons::OuiNonAnnuler);
-  EXPECT_EQ(horaires.boites[0].icone, Icone::Question);
-  EXPECT_EQ(horaires.boites[0].texte,
-            "Le train effectue le trajet suivant :\r\rDeux trains arrivent à LE MANS    à la même heure :\r" +
-                LigneTrain(sansDuree) + "\r" + LigneTrain(2) +
-                "\rTapez 'Oui' pour garder le premier, et 'Non' pour conserver le second.");
-  // "Non" keeps the second; the time of the dropped run stays in the total.
-  EXPECT_EQ(Trajet(), (std::vector<std::string>{"09:40  10:00 ANGERS      LE MANS", "10:00  10:30 LE MANS     PARIS"}));
-  EXPECT_EQ(Duree, 30 + 10 + 20);
-  // "Oui" (and "Annuler") keep the first.
-  for (Reponse r : {Reponse::Oui, Reponse::Annuler}) {
-    horaires.reponses = {r};
-    Suit(3, 4, 1000, "Train");
-    EXPECT_EQ(Trains.ListeTrains.ListCount(), 2);
-    EXPECT_EQ(Left(Trains.ListeTrains.Lignes[0], 5), "09:50");
-    EXPECT_EQ(Duree, 40);
-  }
-}
-
 // A run with no duration whose departure follows its arrival sorts after the row it joins, and
 // is offered again at each pass: it is taken twice at most.
 TEST_F(TrainsTest, DonneesIncoherentesSansBoucleSansFin) {

@@ -1,4 +1,5 @@
-// The check of durations against the mean of their link.
+// The check of durations against the mean of their link: the ratios, the gap, the bound of
+// the marks.
 #include "horaires/CommunHoraires.h"
 #include "horaires/Verification.h"
 
@@ -43,20 +44,6 @@ TEST_F(Verification, DixEtTrente) {
   EXPECT_EQ(horaires.demandes[2].defaut, "5");
 }
 
-TEST_F(Verification, OuiSortAvecLaLigneChoisie) {
-  Horaire(1, 2, 800, 810);
-  Horaire(1, 2, 1200, 1230);
-  Horaire(1, 6, 0, 0, CodeMode("Avion"));
-  horaires.reponses = {Reponse::Oui};
-  DetecteErreursHoraires();
-  EXPECT_EQ(Ecarts().size(), 1u);
-  EXPECT_EQ(HorairesArcs.ListeHoraires.ListIndex, 0);
-  EXPECT_EQ(Left(HorairesArcs.LigneSelectionnee, 5), "08:00");
-  EXPECT_TRUE(HorairesArcs.Modifier.Enabled);
-  EXPECT_EQ(ModifArcs.ListeModifiable1.ListIndex, 1);
-  EXPECT_EQ(ModifArcs.ListeModifiable2.ListIndex, 2);
-}
-
 TEST_F(Verification, ParametresSaisis) {
   Horaire(1, 2, 800, 810);
   Horaire(1, 2, 1200, 1216);  // mean 13: 3 minutes off each way
@@ -72,15 +59,6 @@ TEST_F(Verification, ParametresSaisis) {
   horaires.saisies.clear();
   DetecteErreursHoraires();
   EXPECT_EQ(horaires.demandes[2].defaut, "5");
-  // Empty answers: a lower margin of 0 divides by zero during this check.
-  horaires.saisies = {"", "", ""};
-  EXPECT_EQ(ErreurDe(DetecteErreursHoraires), ErrDivisionZero);
-  EXPECT_EQ(MargeInferieure, 0);
-  horaires.demandes.clear();
-  horaires.boites.clear();
-  DetecteErreursHoraires();
-  EXPECT_EQ(horaires.demandes[1].defaut, "1.2");
-  EXPECT_TRUE(Ecarts().empty());
 }
 
 TEST_F(Verification, PlusDeCentMilleArcs) {
