@@ -12,6 +12,12 @@
 #include "graphe/Inscriptions.h"
 #include "graphe/Modifications.h"
 #include "graphe/Modes.h"
+#include "horaires/Developpement.h"
+#include "horaires/Horaires.h"
+#include "horaires/HorairesArcs.h"
+#include "horaires/HorairesNoeuds.h"
+#include "horaires/Trains.h"
+#include "horaires/Verification.h"
 #include "image/Exploration.h"
 #include "image/Impression.h"
 #include "image/Rapport.h"
@@ -104,6 +110,8 @@ const Liaison kLiaisons[] = {
     {"menOptionsAttractions", menOptionsAttractions},
     {"menTraceTrajets", menTraceTrajets},
     {"menCouleursNoeuds", menCouleursNoeuds},
+    {"menDéveloppmentHoraire", menDeveloppmentHoraire},
+    {"menOptimisationHoraire", menOptimisationHoraire},
     {"menArcsTrajets", menArcsTrajets},
     {"menArcsAttractions", menArcsAttractions},
     {"menTraceRelief", menTraceRelief},
@@ -132,6 +140,7 @@ void EnregistreTout() {
   // The dialogs, in the order of the table of dialogs.
   EnregistreModifArcs();
   EnregistreModifNoeuds();
+  EnregistreHoraires();
   EnregistreAngles();
   EnregistreFrmAnamorphose();
   EnregistreTraceArcs();
@@ -186,6 +195,14 @@ void EnregistreRoutines() {
   r.emplace("CalculeCoutsAllemagne", [] { CalculeCoutsAllemagne(); });
   r.emplace("CalculeCoutsEspagne", [] { CalculeCoutsEspagne(); });
   r.emplace("RapportTraitementTexte", [] { RapportTraitementTexte(); });
+  r.emplace("AfficheHorairesArcs", [] { AfficheHorairesArcs(); });
+  r.emplace("AfficheTrain", [] { AfficheTrain(); });
+  r.emplace("AfficheHorairesNoeud", [] { AfficheHorairesNoeud(); });
+  r.emplace("DeveloppeHoraires", [] { DeveloppeHoraires(); });
+  r.emplace("DeveloppeHorairesParLigne", [] { DeveloppeHorairesParLigne(); });
+  r.emplace("OptimiseHoraires", [] { OptimiseHoraires(); });
+  r.emplace("DetecteErreursHoraires", [] { DetecteErreursHoraires(); });
+  r.emplace("SelectionneTousSiAucun", [] { SelectionneTousSiAucun(); });
 }
 
 }  // namespace orva
