@@ -16,6 +16,7 @@ cmake --build build-test -j"$coeurs"
 
 echo "== Construction et tests sous ASan + UBSan ==" >&2
 export ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
+export LSAN_OPTIONS="suppressions=$racine/outils/lsan.supp:print_suppressions=0"
 cmake -S . -B build-asan -DCMAKE_BUILD_TYPE=Debug -DORVA_SANITIZE=ON >/dev/null
 cmake --build build-asan -j"$coeurs"
 (cd build-asan && ctest --output-on-failure -j"$coeurs" --timeout 600)
