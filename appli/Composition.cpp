@@ -4,8 +4,11 @@
 #include "anamorphose/FrmAnamorphose.h"
 #include "appli/Demarrage.h"
 #include "dessin/Dessin.h"
+#include "edition/Annulation.h"
+#include "edition/Digitalisation.h"
 #include "edition/ModifArcs.h"
 #include "edition/ModifNoeuds.h"
+#include "edition/Nettoyage.h"
 #include "graphe/FichiersArcs.h"
 #include "graphe/FichiersNoeuds.h"
 #include "graphe/Inscriptions.h"
@@ -63,11 +66,14 @@ const Liaison kLiaisons[] = {
     {"menParamAffichage", menParamAffichage},
     {"menZoomBarreOutils", menZoomBarreOutils},
     {"menImageVectorielle", menImageVectorielle},
+    {"menChargeImageFond", menChargeImageFond},
     {"menRedessine", menRedessine},
     {"menOptionsRedessine", menOptionsRedessine},
     {"menEffaceImage", menEffaceImage},
     {"menAfficheVilles", menAfficheVilles},
     {"menAfficheNomsVilles", menAfficheNomsVilles},
+    {"menModifieNoeuds", menModifieNoeuds},
+    {"menAnnulerNoeuds", menAnnuler},
     {"menOptionsAffichageVilles", menOptionsAffichageVilles},
     {"menOptionsAffichageNoms", menOptionsAffichageNoms},
     {"menFichierODVal1", menFichierODVal1},
@@ -94,6 +100,9 @@ const Liaison kLiaisons[] = {
     {"menOptionsAttractions", menOptionsAttractions},
     {"menTraceTrajets", menTraceTrajets},
     {"menCouleursNoeuds", menCouleursNoeuds},
+    {"menModifieOD", menModifieOD},
+    {"menAnnuler", menAnnuler},
+    {"menElimineArcsDéconnectés", menElimineArcsDeconnectes},
     {"menArcsTrajets", menArcsTrajets},
     {"menArcsAttractions", menArcsAttractions},
     {"menTraceRelief", menTraceRelief},
@@ -121,6 +130,8 @@ void EnregistreTout() {
   // The dialogs, in the order of the table of dialogs.
   EnregistreModifArcs();
   EnregistreModifNoeuds();
+  EnregistreDigitalisation();
+  EnregistreAnnulation();
   EnregistreAngles();
   EnregistreFrmAnamorphose();
   EnregistreTraceArcs();
@@ -142,6 +153,8 @@ void EnregistreTout() {
   EnregistreAnamorphose();
   // The lift of the arc layer is the relief's valuation.
   ValuationDesArcs = HauteurArc;
+  // A release of the mouse on the view chooses nodes for the editing, or digitises.
+  ClicSurImage = ClicEdition;
   for (const Liaison& l : kLiaisons) LieMenu(l.menu, l.commande);
 }
 
@@ -172,6 +185,7 @@ void EnregistreRoutines() {
   r.emplace("CalculeCoutsFrance", [] { CalculeCoutsFrance(); });
   r.emplace("CalculeCoutsAllemagne", [] { CalculeCoutsAllemagne(); });
   r.emplace("CalculeCoutsEspagne", [] { CalculeCoutsEspagne(); });
+  r.emplace("EliminationArcsDoubles", [] { EliminationArcsDoubles(); });
 }
 
 }  // namespace orva
