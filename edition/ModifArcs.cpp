@@ -473,8 +473,8 @@ void EnregistreModifArcs() {
   InscritListeNoeuds(d.ListeModifiable2);
   InscritListeModes(d.ListeModifiable3);
   InscritListeFichiersArcs(d, d.ListeFichArcs);
-  EnregistreReglage("ModifArcs.LongueurArc", d.LongueurArc);
-  EnregistreReglage("ModifArcs.SaisieDuree", d.SaisieDuree);
+  EnregistreReglage("LongueurArc", d.LongueurArc);
+  EnregistreReglage("SaisieDuree", d.SaisieDuree);
 }
 
 }  // namespace orva

@@ -309,6 +309,76 @@ TEST_F(ModifArcsTest, FichierDArcsNouveauSeulement) {
   EXPECT_EQ(ErreurDe([] { EcritFichierArcs(); }), ErrAnnulation);
 }
 
+// The layouts of the arc file, byte for byte, as the command writes them.
+TEST_F(ModifArcsTest, DispositionsParLaCommande) {
+  Reseau({{"PARIS", 157, 0, 0}, {"LYON-SAINT-EXUPERY", 158, 0, 0}}, {});
+  NbArcs = 3;
+  Arcs.ReDim(0, 3);
+  Arc& a = Arcs[1];
+  a.CodeOrigine = 157;
+  a.CodeDestination = 158;
+  a.IndiceOrigine = 1;
+  a.IndiceDestination = 2;
+  a.Mode = 3;
+  a.Longueur = 310.5f;
+  a.Temps = 90;
+  a.Depart = 570;
+  a.Arrivee = 660;
+  a.Jours = "0101010";
+  a.Debit = 12;
+  a.Capacite = 345.6f;
+  Arc& b = Arcs[2];
+  b.CodeOrigine = 5;
+  b.CodeDestination = 999;
+  b.IndiceOrigine = 1;
+  b.Mode = 61;
+  b.Longueur = 0.25f;
+  b.Temps = 59.5f;
+  Arc& c = Arcs[3];
+  c.CodeOrigine = -7;
+  c.CodeDestination = 1234567890;
+  c.IndiceOrigine = 2;
+  c.IndiceDestination = 2;
+  c.Mode = 7;
+  c.Longueur = 12345.678f;
+  c.Temps = 1500;
+  c.Depart = -90;
+  c.Arrivee = 1439;
+  c.Jours = "1";
+  DossierTemporaire dossier;
+  port.fichiers.push_back(dossier.chemin + "/long.dat");
+  ModifArcs.Command3D4.Click();
+  EXPECT_EQ(LitOctets(dossier.chemin + "/long.dat"),
+            "0000000157 0000000158 0003 0310.500 0130 0930 1100 0101010 000012 000346 PARIS      LYON-SAINT\r\n"
+            "0000000005 0000000999 0061 0000.250 0060 0000 0000         000000 000000 PARIS                \r\n"
+            "-0000000007 1234567890 0007 12345.678 2500 -0130 2359 1       000000 000000 LYON-SAINT LYON-SAINT\r\n");
+  FormatLong = Faux;
+  const struct {
+    int32_t o, d;
+    int16_t mode;
+    float longueur, temps;
+  } cas[] = {{1234567, 12, 7, 25, 95}, {5, 123456, 61, 5.5f, 1500}, {12345678, 0, 811, 1234, 0},
+             {100, 1000, 2, 12.25f, 59.6f}, {-5, -123, -1, 10, 61}};
+  NbArcs = 5;
+  Arcs.ReDim(0, 5);
+  for (long i = 1; i <= 5; ++i) {
+    Arcs[i].CodeOrigine = cas[i - 1].o;
+    Arcs[i].CodeDestination = cas[i - 1].d;
+    Arcs[i].Mode = cas[i - 1].mode;
+    Arcs[i].Longueur = cas[i - 1].longueur;
+    Arcs[i].Temps = cas[i - 1].temps;
+  }
+  port.fichiers.push_back(dossier.chemin + "/court.dat");
+  ModifArcs.Command3D4.Click();
+  EXPECT_EQ(LitOctets(dossier.chemin + "/court.dat"),
+            "1234567 0000012 7 0025 0135\r\n"
+            " 5 0123456 6105.5 2500\r\n"
+            "12345678  0 811234 0000\r\n"
+            "0000100 0001000 2 12.25 0060\r\n"
+            "00000-5 000-123 -10010 0101\r\n");
+  EXPECT_TRUE(port.boites.empty());
+}
+
 TEST_F(ModifArcsTest, AjouteFichierFusionne) {
   Reseau(kNoeuds, {{10, 20, 7, 203, 174}});
   DossierTemporaire dossier;
