@@ -208,6 +208,9 @@ void menAnnuler() {
   }
   Redessine();
   Ima.Refresh();
+  // The dialogs on the screen show the network put back.
+  for (Dialogue* d : {static_cast<Dialogue*>(&ModifArcs), static_cast<Dialogue*>(&ModifNoeuds)})
+    if (d->Visible) Port().Rafraichit(d->Nom);
 }
 
 void EnregistreAnnulation() {
