@@ -354,33 +354,32 @@ void AfficheAnamorphose(bool force) {
 
 void EcritRapportAnamorphose(const std::string& fichier, double vitesseMaxAna) {
   Vitesses vitesse;
-  std::ofstream f = OuvreEcriture(fichier);
-  EcritLigne(f, "NomVille1            NomVille2  ModeTransport     LongArc   LongArcVoulue   ErrArc       Stress   "
-                "CodeVille1  CodeVille2");
-  double erreurs = 0, voulues = 0;
-  for (long i = 1; i <= NbArcs; ++i) {
-    const Arc& a = Arcs[i];
-    if (a.Longueur == 0 || a.Minimal != 1) continue;
-    const Noeud& o = Noeuds[a.IndiceOrigine];
-    const Noeud& d = Noeuds[a.IndiceDestination];
-    const float atteinte = static_cast<float>(DistanceEspace(o.AnaX, o.AnaY, 0, d.AnaX, d.AnaY, 0));
-    const float voulue = static_cast<float>(a.Longueur * Divise(vitesseMaxAna, vitesse(a.Mode)));
-    const double erreur = std::fabs(static_cast<double>(voulue) - atteinte);
-    erreurs += erreur * erreur;
-    voulues += static_cast<double>(voulue) * voulue;
-    const std::string cinq(5, ' ');
-    std::string l = Left(o.Nom.str(), 20) + " " + Left(d.Nom.str(), 20) + " ";
-    l += FormatFichier(a.Mode, "000") + cinq;
-    l += FormatFichier(atteinte, "0000.000") + cinq;
-    l += FormatFichier(voulue, "0000.000") + cinq;
-    l += FormatFichier(erreur, "0000.000") + cinq;
-    l += FormatFichier(Divise(erreurs, voulues), "000.000") + "  ";
-    l += FormatFichier(a.IndiceOrigine, "0000000000") + "  ";
-    l += FormatFichier(a.IndiceDestination, "0000000000");
-    EcritLigne(f, l);
-  }
-  f.flush();
-  if (!f) Leve(ErrChemin);
+  EcritFichierSur(fichier, [&](std::ostream& f) {
+    EcritLigne(f, "NomVille1            NomVille2  ModeTransport     LongArc   LongArcVoulue   ErrArc       Stress   "
+                  "CodeVille1  CodeVille2");
+    double erreurs = 0, voulues = 0;
+    for (long i = 1; i <= NbArcs; ++i) {
+      const Arc& a = Arcs[i];
+      if (a.Longueur == 0 || a.Minimal != 1) continue;
+      const Noeud& o = Noeuds[a.IndiceOrigine];
+      const Noeud& d = Noeuds[a.IndiceDestination];
+      const float atteinte = static_cast<float>(DistanceEspace(o.AnaX, o.AnaY, 0, d.AnaX, d.AnaY, 0));
+      const float voulue = static_cast<float>(a.Longueur * Divise(vitesseMaxAna, vitesse(a.Mode)));
+      const double erreur = std::fabs(static_cast<double>(voulue) - atteinte);
+      erreurs += erreur * erreur;
+      voulues += static_cast<double>(voulue) * voulue;
+      const std::string cinq(5, ' ');
+      std::string l = Left(o.Nom.str(), 20) + " " + Left(d.Nom.str(), 20) + " ";
+      l += FormatFichier(a.Mode, "000") + cinq;
+      l += FormatFichier(atteinte, "0000.000") + cinq;
+      l += FormatFichier(voulue, "0000.000") + cinq;
+      l += FormatFichier(erreur, "0000.000") + cinq;
+      l += FormatFichier(Divise(erreurs, voulues), "000.000") + "  ";
+      l += FormatFichier(a.IndiceOrigine, "0000000000") + "  ";
+      l += FormatFichier(a.IndiceDestination, "0000000000");
+      EcritLigne(f, l);
+    }
+  });
 }
 
 void CalculeAnamorphose() {

@@ -28,7 +28,7 @@ void RelaxeAnneau(long anneau, double vitesseMaxAna, double vitesseNiveau);
 // The projection of the nodes from AnaX, AnaY and Z, and the redraw of the view (at most a few
 // times a second; `force` redraws whatever the time).
 void AfficheAnamorphose(bool force = false);
-// The report: a header, then a line per selected arc of a length.
+// The report: a header, then a line per selected arc of a length; written whole or not at all.
 void EcritRapportAnamorphose(const std::string& fichier, double vitesseMaxAna);
 
 // The whole run around the node of ListIndex of frmAnamorphose.ListeModifiable1 (node 2 when no

@@ -5,8 +5,11 @@
 #include "appli/Demarrage.h"
 #include "dessin/Dessin.h"
 #include "dxf/SortieDXF.h"
+#include "edition/Annulation.h"
+#include "edition/Digitalisation.h"
 #include "edition/ModifArcs.h"
 #include "edition/ModifNoeuds.h"
+#include "edition/Nettoyage.h"
 #include "graphe/FichiersArcs.h"
 #include "graphe/FichiersNoeuds.h"
 #include "graphe/Inscriptions.h"
@@ -79,11 +82,14 @@ const Liaison kLiaisons[] = {
     {"menEnregistreSVG", menEnregistreSVG},
     {"menEnregistrePDF", menEnregistrePDF},
     {"menCopieImage", menCopieImage},
+    {"menChargeImageFond", menChargeImageFond},
     {"menRedessine", menRedessine},
     {"menOptionsRedessine", menOptionsRedessine},
     {"menEffaceImage", menEffaceImage},
     {"menAfficheVilles", menAfficheVilles},
     {"menAfficheNomsVilles", menAfficheNomsVilles},
+    {"menModifieNoeuds", menModifieNoeuds},
+    {"menAnnulerNoeuds", menAnnuler},
     {"menOptionsAffichageVilles", menOptionsAffichageVilles},
     {"menOptionsAffichageNoms", menOptionsAffichageNoms},
     {"menFichierODVal1", menFichierODVal1},
@@ -112,6 +118,9 @@ const Liaison kLiaisons[] = {
     {"menCouleursNoeuds", menCouleursNoeuds},
     {"menDéveloppmentHoraire", menDeveloppmentHoraire},
     {"menOptimisationHoraire", menOptimisationHoraire},
+    {"menModifieOD", menModifieOD},
+    {"menAnnuler", menAnnuler},
+    {"menElimineArcsDéconnectés", menElimineArcsDeconnectes},
     {"menArcsTrajets", menArcsTrajets},
     {"menArcsAttractions", menArcsAttractions},
     {"menTraceRelief", menTraceRelief},
@@ -141,6 +150,8 @@ void EnregistreTout() {
   EnregistreModifArcs();
   EnregistreModifNoeuds();
   EnregistreHoraires();
+  EnregistreDigitalisation();
+  EnregistreAnnulation();
   EnregistreAngles();
   EnregistreFrmAnamorphose();
   EnregistreTraceArcs();
@@ -164,6 +175,8 @@ void EnregistreTout() {
   EnregistreRapport();
   // The lift of the arc layer is the relief's valuation.
   ValuationDesArcs = HauteurArc;
+  // A release of the mouse on the view chooses nodes for the editing, or digitises.
+  ClicSurImage = ClicEdition;
   for (const Liaison& l : kLiaisons) LieMenu(l.menu, l.commande);
 }
 
@@ -203,6 +216,7 @@ void EnregistreRoutines() {
   r.emplace("OptimiseHoraires", [] { OptimiseHoraires(); });
   r.emplace("DetecteErreursHoraires", [] { DetecteErreursHoraires(); });
   r.emplace("SelectionneTousSiAucun", [] { SelectionneTousSiAucun(); });
+  r.emplace("EliminationArcsDoubles", [] { EliminationArcsDoubles(); });
 }
 
 }  // namespace orva

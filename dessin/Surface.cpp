@@ -1,11 +1,14 @@
 #include "dessin/Surface.h"
 
+#include <QBuffer>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
 #include <optional>
 
 #include "dessin/ContexteRaster.h"
+#include "noyau/Erreurs.h"
+#include "noyau/Fichiers.h"
 #include "noyau/Plateforme.h"
 
 namespace orva {
@@ -33,6 +36,7 @@ struct SurfaceImage::Interne {
   QImage image;
   ContexteRaster raster{&image};
   Contexte* remplacant = nullptr;
+  QImage fond;
   Objet stylo = 0, brosse = 0, police = 0;
   // The pen and brush of Line and Circle, which take a colour of their own.
   std::optional<ObjetGdi> styloForce, brosseForce;
@@ -103,10 +107,20 @@ void SurfaceImage::DefinitContexte(Contexte* c) {
   if (c) c->AdopteObjets(interne_->stylo, interne_->brosse, interne_->police, [this] { return ForeColor; });
 }
 
+void SurfaceImage::DefinitFond(const QImage& fond) { interne_->fond = fond; }
+
+const QImage& SurfaceImage::Fond() const { return interne_->fond; }
+
 void SurfaceImage::Cls() {
   Image();
   QImage& im = interne_->image;
-  if (!im.isNull()) im.fill(QColor::fromRgb(VersRgbQt(BackColor)));
+  if (!im.isNull()) {
+    im.fill(QColor::fromRgb(VersRgbQt(BackColor)));
+    if (!interne_->fond.isNull()) {
+      QPainter p(&im);
+      p.drawImage(0, 0, interne_->fond);
+    }
+  }
   CurrentX = CurrentY = 0;
 }
 
@@ -177,10 +191,25 @@ void SurfaceImage::Reinitialise() {
   CurrentX = CurrentY = 0;
   Font = DescriptionPolice{};
   interne_->image = QImage();
+  interne_->fond = QImage();
   interne_->styloForce.reset();
   interne_->brosseForce.reset();
   DefinitContexte(nullptr);
   interne_->raster.AdopteObjets(interne_->stylo, interne_->brosse, interne_->police, [this] { return ForeColor; });
+}
+
+bool EcritImage(const QImage& image, const std::string& chemin, const char* format) {
+  if (image.isNull()) return false;
+  QByteArray octets;
+  QBuffer tampon(&octets);
+  tampon.open(QIODevice::WriteOnly);
+  if (!image.save(&tampon, format)) return false;
+  try {
+    EcritFichierSur(chemin, [&octets](std::ostream& f) { f.write(octets.constData(), octets.size()); });
+  } catch (const ErreurExecution&) {
+    return false;
+  }
+  return true;
 }
 
 }  // namespace orva

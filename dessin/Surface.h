@@ -42,7 +42,13 @@ struct SurfaceImage {
   Contexte* hDC();
   void DefinitContexte(Contexte* c);  // nullptr: back to the raster context
 
-  // Clear to BackColor; make visible; segment or box (B: outline, BF: filled with the line
+  // The picture laid under the drawing (a scanned plan, a played metafile), at its own size in
+  // the top-left corner: Cls paints it over BackColor, as a picture control keeps its Picture
+  // when it is cleared. A null picture: none.
+  void DefinitFond(const QImage& fond);
+  const QImage& Fond() const;
+
+  // Clear to BackColor and the background picture; make visible; segment or box (B: outline, BF: filled with the line
   // colour); circle with FillStyle/FillColor; text at CurrentX/Y.
   void Cls();
   void Refresh();
@@ -68,5 +74,9 @@ struct SurfaceImage {
 
 inline SurfaceImage Ima{"Ima"};
 inline SurfaceImage ImaVec{"ImaVec"};
+
+// Writes a picture to a file in the given format ("BMP", "PNG"...), whole or not at all
+// (EcritFichierSur); false when it cannot be encoded or written, the old file then as it was.
+bool EcritImage(const QImage& image, const std::string& chemin, const char* format);
 
 }  // namespace orva

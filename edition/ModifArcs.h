@@ -33,6 +33,34 @@ inline EtatModifArcs ModifArcs;
 // stale), plugged in by the timetables.
 inline std::function<void()> ApresAjoutFichierArcs;
 
+// The commands of the dialog, run by its controls (each under its command's handler) and by the
+// mouse. Every change of Arcs is an undoable step.
+//
+// The pair chosen (the Click of the three combos). With a node in both combos: ModeArc from the
+// mode combo; Longueur preset to the straight distance x 203 / 188; the first arc of the pair
+// (either direction) in that mode fills the boxes; the buttons follow (BtnCréer without an arc,
+// BtnDétruire, BtnDoubleArc or BtnHoraires with one). Reads Noeuds, Arcs; writes the boxes.
+void ChoisitPaire();
+// Longueur changed: while no duration is being confirmed, the duration at the mode's speed.
+void LongueurChange();
+// BtnCréer and BtnDoubleArc: an arc of the pair (reversed for the double) from the boxes, drawn at
+// once, unless its length is 0. Their own handler reports any run-time error.
+void BtnCreerClic();
+void BtnDoubleArcClic();
+// BtnDétruire: the arcs of the pair in the mode, both directions, and a grey stroke over them.
+void BtnDetruireClic();
+// A click on a value box (Capacité, Débit, Longueur, Heures, Minutes) while an arc exists: the
+// value confirmed in an input box; a new value removes and re-creates the arc.
+void ChangeValeurArc(ZoneTexte& boite);
+// The mode combo chosen: with an arc, the question, and on Oui the arc re-created in that mode.
+void ListeModifiable3Clic();
+// "Enregistrer fichier arcs": the arcs to a new file, never the current one nor an existing one.
+void EcritFichierArcs();
+// "Ajoute fichier": a further arc file appended to the arcs (AjoutArcs), the indices rebuilt.
+void AjouteFichierArcs();
+// "Modifie les arcs...": the dialog, and the choice of the pair by the mouse.
+void menModifieOD();
+
 void EnregistreModifArcs();
 
 }  // namespace orva

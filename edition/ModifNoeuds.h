@@ -24,6 +24,24 @@ struct EtatModifNoeuds : Dialogue {
 };
 inline EtatModifNoeuds ModifNoeuds;
 
+// The commands of the dialog, run by its controls under their handler. Every change of the
+// network is an undoable step.
+//
+// The node chosen (ListeModifiable1): its fields in the boxes, the number of its arcs as its
+// links, its displayed value ("0" without one).
+void ChoisitNoeud();
+// "Créer": a node from the boxes, unless its name starts with a digit or its code exists; then
+// the mode sets, the node lists, the projection, the indices of arcs and the redraw.
+void CreeNoeud();
+// Modify the chosen node: a code that is its own or free (the arcs follow a new code).
+void ModifieNoeud();
+// Remove the node of the code in the box, with its arcs, after the question.
+void EliminerNoeud();
+// "Enregistrer le fichier": the nodes in the layout in force, to the file chosen.
+void EcritFichierNoeuds();
+// "Modifie les noeuds...": the dialog, and the choice of a node by the mouse.
+void menModifieNoeuds();
+
 void EnregistreModifNoeuds();
 
 }  // namespace orva

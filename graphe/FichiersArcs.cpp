@@ -324,13 +324,11 @@ void DefinitOrientationArcs() {
 // Writers.
 
 void EcritArcsLong(const std::string& nom) {
-  std::ofstream f = OuvreEcriture(nom);
-  EcritArcsLong(f);
+  EcritFichierSur(nom, [](std::ostream& f) { EcritArcsLong(f); });
 }
 
 void EcritArcsCourt(const std::string& nom) {
-  std::ofstream f = OuvreEcriture(nom);
-  EcritArcsCourt(f);
+  EcritFichierSur(nom, [](std::ostream& f) { EcritArcsCourt(f); });
 }
 
 void EcritArcsLong(std::ostream& out) {

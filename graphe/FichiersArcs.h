@@ -28,7 +28,7 @@ void ImplementeIndicesArcs();
 // progress. Indexed, with exactly the pairs of the literal quadratic pass.
 void DefinitOrientationArcs();
 
-// Write all arcs to `nom`, replacing it (reads Arcs, NbArcs, Noeuds names, EliminerDeconnectes;
+// Write all arcs to `nom`, replacing it whole or leaving it as it was (reads Arcs, NbArcs, Noeuds names, EliminerDeconnectes;
 // the long writer reports progress). Days are not read back, and two-digit modes of the short
 // layout do not read back: kept asymmetries.
 void EcritArcsLong(const std::string& nom);

@@ -191,13 +191,11 @@ void RempliListesNoeuds() {
 }
 
 void EcritNoeudsLong(const std::string& nom) {
-  std::ofstream f = OuvreEcriture(nom);
-  EcritNoeudsLong(f);
+  EcritFichierSur(nom, [](std::ostream& f) { EcritNoeudsLong(f); });
 }
 
 void EcritNoeudsCourt(const std::string& nom) {
-  std::ofstream f = OuvreEcriture(nom);
-  EcritNoeudsCourt(f);
+  EcritFichierSur(nom, [](std::ostream& f) { EcritNoeudsCourt(f); });
 }
 
 void EcritNoeudsLong(std::ostream& out) {

@@ -20,8 +20,8 @@ void ChargeNoeudsCourt(std::istream& in, const std::string& nom);
 // characters of each Nom.
 void RempliListesNoeuds();
 
-// Write Noeuds to `nom`, replacing it (reads Noeuds, NbNoeuds; the short writer also NomsCourts
-// and FichierNoeuds for its divider). Kept asymmetries: a negative coordinate shifts the long
+// Write Noeuds to `nom`, replacing it whole or leaving it as it was (EcritFichierSur) (reads
+// Noeuds, NbNoeuds; the short writer also NomsCourts and FichierNoeuds for its divider). Kept asymmetries: a negative coordinate shifts the long
 // line; the short layout moves NomsCourts two columns right on each round trip.
 void EcritNoeudsLong(const std::string& nom);
 void EcritNoeudsCourt(const std::string& nom);

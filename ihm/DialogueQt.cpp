@@ -14,6 +14,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QListWidget>
 #include <QPixmap>
 #include <QProgressBar>
@@ -22,6 +23,7 @@
 #include <QRegularExpressionValidator>
 #include <QSpinBox>
 #include <QTabWidget>
+#include <QTimer>
 #include <QToolButton>
 #include <QValueAxis>
 #include <QVBoxLayout>
@@ -129,6 +131,21 @@ class FiltreDoubleClic : public QObject {
       f_();
       return true;
     }
+    return QObject::eventFilter(o, e);
+  }
+
+ private:
+  std::function<void()> f_;
+};
+
+// A press of the left button on a text box runs its Click once the press has reached the box
+// (a value that a click confirms in a box of its own).
+class FiltrePression : public QObject {
+ public:
+  FiltrePression(QObject* parent, std::function<void()> f) : QObject(parent), f_(std::move(f)) {}
+  bool eventFilter(QObject* o, QEvent* e) override {
+    if (e->type() == QEvent::MouseButtonPress && static_cast<QMouseEvent*>(e)->button() == Qt::LeftButton)
+      QTimer::singleShot(0, this, [this] { f_(); });
     return QObject::eventFilter(o, e);
   }
 
@@ -358,6 +375,10 @@ void DialogueQt::AjouteWidget(const std::string& nom, Controle* c) {
     });
     if (t->DblClick)
       w->installEventFilter(new FiltreDoubleClic(w, [this, t] { Action(t->DblClick); }));
+    // The Click of a text box is looked up at each press: a command may set it later.
+    w->installEventFilter(new FiltrePression(w, [this, t] {
+      if (t->Click && t->Enabled) Action(t->Click);
+    }));
     QLabel* l = nullptr;
     if (masque && suite_) {
       // The mask field stands beside its twin text box, its caption as the unit.
@@ -903,10 +924,13 @@ void DialogueQt::Synchronise() {
 }
 
 void DialogueQt::reject() {
-  // Escape and the window's close button act as the dialog's "Annuler" when it has one;
-  // otherwise they only hide it.
+  // Escape and the window's close button act as the dialog's "Annuler" (or "Quitter") when it
+  // has one; otherwise they only hide it.
   for (auto& [nom, c] : etat_.Controles()) {
-    if (auto* b = dynamic_cast<Bouton*>(c); b && SansEsperluette(b->Caption) == "Annuler" && b->Click) {
+    // "Quitter" of a dialog shown without waiting does the same.
+    if (auto* b = dynamic_cast<Bouton*>(c);
+        b && (SansEsperluette(b->Caption) == "Annuler" || (!etat_.Modal && SansEsperluette(b->Caption) == "Quitter")) &&
+        b->Click) {
       if (!b->Enabled || !b->Visible) return;
       Action(b->Click);
       if (etat_.Visible) return;

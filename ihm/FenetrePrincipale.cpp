@@ -1,6 +1,7 @@
 #include "ihm/FenetrePrincipale.h"
 
 #include <QAction>
+#include <QKeySequence>
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QProgressBar>
@@ -147,6 +148,11 @@ void FenetrePrincipale::ConstruitMenus() {
     if (!dans) continue;
     QAction* a = dans->addAction(Q(m->Caption));
     a->setObjectName(Q(nom));
+    if (!m->Raccourci.empty()) {
+      // From any window of the program, the editing dialogs included; a modal box still blocks it.
+      a->setShortcut(QKeySequence(Q(m->Raccourci)));
+      a->setShortcutContext(Qt::ApplicationShortcut);
+    }
     std::string n = nom;
     connect(a, &QAction::triggered, this, [this, n] { ExecuteEntree(n); });
     actions_[nom] = a;

@@ -8,6 +8,8 @@
 
 #include "dessin/Dessin.h"
 #include "dessin/Surface.h"
+#include "noyau/Erreurs.h"
+#include "noyau/Fichiers.h"
 
 namespace orva {
 
@@ -41,18 +43,22 @@ HandleMeta CopieMetaFichierAvecEtendue(HandleMeta metaFichier, int largeur, int 
 }
 
 void EcritMetaFichier(const std::string& nom, HandleMeta metaFichier, int largeur, int hauteur) {
-  // 1. Created empty, closed, opened again to write.
-  { std::ofstream creation(nom, std::ios::binary | std::ios::trunc); if (!creation) return; }
-  std::ofstream f(nom, std::ios::binary | std::ios::in | std::ios::out);
-  if (!f || metaFichier == 0 || GetMetaFileBits(metaFichier).empty()) return;
-  // 2. The header.
-  std::vector<uint8_t> entete = EnTeteMetaFichierPlaceable(largeur, hauteur);
-  f.write(reinterpret_cast<const char*>(entete.data()), static_cast<std::streamsize>(entete.size()));
-  // 3. The copy that carries the extent; 4. its bytes, when there are some.
-  HandleMeta copie = CopieMetaFichierAvecEtendue(metaFichier, largeur, hauteur);
-  std::vector<uint8_t> octets = GetMetaFileBits(copie);
-  if (!octets.empty()) f.write(reinterpret_cast<const char*>(octets.data()), static_cast<std::streamsize>(octets.size()));
-  DeleteMetaFile(copie);
+  // Nothing is reported: a file that cannot be written stays as it was. Without a metafile the
+  // file is made empty.
+  try {
+    EcritFichierSur(nom, [&](std::ostream& f) {
+      if (metaFichier == 0 || GetMetaFileBits(metaFichier).empty()) return;
+      // The header.
+      std::vector<uint8_t> entete = EnTeteMetaFichierPlaceable(largeur, hauteur);
+      f.write(reinterpret_cast<const char*>(entete.data()), static_cast<std::streamsize>(entete.size()));
+      // The copy that carries the extent, and its bytes when there are some.
+      HandleMeta copie = CopieMetaFichierAvecEtendue(metaFichier, largeur, hauteur);
+      std::vector<uint8_t> octets = GetMetaFileBits(copie);
+      DeleteMetaFile(copie);
+      if (!octets.empty()) f.write(reinterpret_cast<const char*>(octets.data()), static_cast<std::streamsize>(octets.size()));
+    });
+  } catch (const ErreurExecution&) {
+  }
 }
 
 bool EcritImageFichier(const std::string& chemin) {
@@ -61,7 +67,7 @@ bool EcritImageFichier(const std::string& chemin) {
   QString nom = QString::fromStdString(chemin);
   QByteArray format = QFileInfo(nom).suffix().toLower().toLatin1();
   if (format.isEmpty() || !QImageWriter::supportedImageFormats().contains(format)) return false;
-  return image.save(nom, format.constData());
+  return EcritImage(image, chemin, format.constData());
 }
 
 bool EcritMetaFichierScenario(const std::string& chemin, int largeur, int hauteur) {

@@ -19,13 +19,14 @@ std::vector<uint8_t> EnTeteMetaFichierPlaceable(int largeur, int hauteur);
 // 0 when metaFichier is not a metafile.
 HandleMeta CopieMetaFichierAvecEtendue(HandleMeta metaFichier, int largeur, int hauteur);
 
-// Writes the file nom: the header, then the bytes of the copy with its extent. The file is
-// created first; a metafile of 0 leaves it empty, a file that cannot be created is skipped.
-// Nothing is reported.
+// Writes the file nom: the header, then the bytes of the copy with its extent; whole or not at
+// all (EcritFichierSur). A metafile of 0 leaves it empty, a file that cannot be written stays as
+// it was. Nothing is reported.
 void EcritMetaFichier(const std::string& nom, HandleMeta metaFichier, int largeur, int hauteur);
 
 // For the scenario runner. The present bitmap of Ima, as BMP or PNG by the extension (any
-// other format that the image library knows by its extension too); false on failure.
+// other format that the image library knows by its extension too), whole or not at all; false
+// on failure.
 bool EcritImageFichier(const std::string& chemin);
 // The present MetaFichier through EcritMetaFichier; false when there is none or the file
 // could not be written.

@@ -135,6 +135,7 @@ struct EntreeMenu : Controle {
   std::string Parent;      // name of the menu or submenu it belongs to ("" for a top menu)
   bool Checked = false;
   bool Disponible = true;  // false: the command is not built yet and does nothing
+  std::string Raccourci;   // the key that runs it from anywhere in the program ("Ctrl+Z"), if any
 };
 
 // A dialog: its caption, visibility and modality, and its controls by name.

@@ -1,8 +1,14 @@
 #include "noyau/Fichiers.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
 #include <cmath>
 #include <filesystem>
 #include <system_error>
+#include <vector>
 
 #include "noyau/Erreurs.h"
 #include "noyau/Plateforme.h"
@@ -69,6 +75,92 @@ std::ofstream OuvreEcriture(const std::string& nom) {
   std::ofstream f(nom, std::ios::binary | std::ios::trunc);
   if (!f) Leve(ErrChemin);
   return f;
+}
+
+namespace {
+
+// The run-time error of a failed system call, by its errno.
+ErreurExecution ErreurSysteme(int err) {
+  switch (err) {
+    case EACCES:
+    case EPERM:
+    case EROFS: return ErreurExecution(70, "Permission refusée");
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG: return ErreurExecution(61, "Disque plein");
+    case ENOENT:
+    case ENOTDIR: return ErreurExecution(ErrChemin);
+    default: return ErreurExecution(75, "Erreur d'accès au chemin/fichier");
+  }
+}
+
+// The temporary file of a safe write: created beside its target, removed unless it was renamed.
+class FichierTemporaire {
+ public:
+  explicit FichierTemporaire(const fs::path& cible) {
+    std::string modele = (cible.parent_path() / ("." + cible.filename().string() + ".XXXXXX")).string();
+    std::vector<char> nom(modele.begin(), modele.end());
+    nom.push_back('\0');
+    const int fd = ::mkstemp(nom.data());
+    if (fd < 0) throw ErreurSysteme(errno);
+    ::close(fd);
+    chemin_ = nom.data();
+  }
+  ~FichierTemporaire() {
+    if (!chemin_.empty()) ::unlink(chemin_.c_str());
+  }
+  FichierTemporaire(const FichierTemporaire&) = delete;
+  FichierTemporaire& operator=(const FichierTemporaire&) = delete;
+  const std::string& Chemin() const { return chemin_; }
+  // Renamed over the target: nothing is left to remove.
+  void Garde() { chemin_.clear(); }
+
+ private:
+  std::string chemin_;
+};
+
+}  // namespace
+
+void EcritFichierSur(const std::string& nom, const std::function<void(std::ostream&)>& ecrit) {
+  if (nom.empty()) Leve(ErrChemin);
+  fs::path cible(nom);
+  std::error_code ec;
+  if (fs::is_symlink(fs::symlink_status(cible, ec))) {
+    cible = fs::weakly_canonical(cible, ec);
+    if (ec) Leve(ErrChemin);
+  }
+  if (cible.parent_path().empty()) cible = fs::path(".") / cible;
+  FichierTemporaire temporaire(cible);
+  {
+    std::ofstream f(temporaire.Chemin(), std::ios::binary | std::ios::trunc);
+    if (!f) throw ErreurSysteme(errno);
+    ecrit(f);
+    errno = 0;
+    f.flush();
+    if (!f) throw ErreurSysteme(errno);
+    f.close();
+    if (f.fail()) throw ErreurSysteme(errno);
+  }
+  // On the disk before it takes the place of the old file.
+  const int fd = ::open(temporaire.Chemin().c_str(), O_WRONLY);
+  if (fd < 0) throw ErreurSysteme(errno);
+  const bool synchronise = ::fsync(fd) == 0;
+  const int errSync = errno;
+  // The rights of the file replaced, or those of a new file.
+  struct stat ancien {};
+  mode_t droits;
+  if (::stat(cible.c_str(), &ancien) == 0) {
+    droits = ancien.st_mode & 07777;
+  } else {
+    const mode_t masque = ::umask(0);
+    ::umask(masque);
+    droits = 0666 & ~masque;
+  }
+  ::fchmod(fd, droits);
+  ::close(fd);
+  if (!synchronise) throw ErreurSysteme(errSync);
+  if (::rename(temporaire.Chemin().c_str(), cible.c_str()) != 0) throw ErreurSysteme(errno);
+  temporaire.Garde();
 }
 
 float NormeVecteur(const std::array<double, 3>& v) {

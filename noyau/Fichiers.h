@@ -3,6 +3,8 @@
 #pragma once
 #include <array>
 #include <fstream>
+#include <functional>
+#include <ostream>
 #include <string>
 
 namespace orva {
@@ -26,6 +28,14 @@ std::string DossierDe(const std::string& chemin);
 // Opens a file of the system for reading (error 53 when missing) or writing (replaced).
 std::ifstream OuvreLecture(const std::string& nom);
 std::ofstream OuvreEcriture(const std::string& nom);
+
+// Writes the file `nom` whole or not at all: `ecrit` fills a temporary file in the same folder,
+// which takes the place of `nom` only once everything is written, flushed and on the disk. Any
+// failure (a folder that cannot be written, a stream in error, an error raised by `ecrit`)
+// removes the temporary file, leaves `nom` as it was, and raises the error: `ecrit`'s own, or
+// 70 (permission), 61 (disk full), 76 (no such folder), 75 (any other access error). A link is
+// followed: the file it names is replaced.
+void EcritFichierSur(const std::string& nom, const std::function<void(std::ostream&)>& ecrit);
 
 // Norm of a vector of three 64-bit floats, as a 32-bit float.
 float NormeVecteur(const std::array<double, 3>& v);

@@ -58,6 +58,7 @@ const Entree kMenus[] = {
     {"menAfficheRonds", "menAffichePopulations", "Les &populations"},
     {"menAfficheRonds", "menAfficheAutoAttractions", "Les a&uto-attractions"},
     {"menVilles", "menModifieNoeuds", "Mo&difie les noeuds..."},
+    {"menVilles", "menAnnulerNoeuds", "Annu&ler la dernière modification"},
     {"menVilles", "menOptionsAffichageVilles", "Paramétres d'affichage des n&oeuds..."},
     {"menVilles", "menOptionsAffichageNoms", "Seuils d'a&ffichage des noms..."},
     {"", "menArcs", "&Arcs"},
@@ -73,6 +74,7 @@ const Entree kMenus[] = {
     {"menArcs", "menCouleursNoeuds", "Les &couleurs des noeuds"},
     {"menArcs", "menEchelleBlindéeArcs", "Echelle blin&dée"},
     {"menArcs", "menModifieOD", "&Modifie les arcs..."},
+    {"menArcs", "menAnnuler", "Annu&ler la dernière modification"},
     {"menArcs", "menDéveloppmentHoraire", "Développement &horaire"},
     {"menArcs", "menOptimisationHoraire", "Op&timisation horaire"},
     {"menArcs", "menElimineArcsDéconnectés", "Elimine arcs &déconnectés..."},
@@ -119,6 +121,8 @@ void EnregistreOrva() {
     m.Disponible = EstMenuParent(e.nom);
     o.Ajoute(e.nom, m);
   }
+  // One undo for the arcs and the nodes: the key is the Arcs menu's.
+  o.Menu("menAnnuler")->Raccourci = "Ctrl+Z";
   // Timetable entries wait for a network with timetables.
   o.Menu("menDéveloppmentHoraire")->Enabled = false;
   o.Menu("menOptimisationHoraire")->Enabled = false;

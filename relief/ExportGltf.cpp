@@ -109,8 +109,18 @@ bool EcritReliefGltf(const std::string& fichier) {
   scene.nodes.push_back(0);
   m.scenes.push_back(scene);
   m.defaultScene = 0;
+  // Written whole or not at all: a file that cannot be written stays as it was.
   tinygltf::TinyGLTF ecrivain;
-  return ecrivain.WriteGltfSceneToFile(&m, fichier, true, true, true, true);
+  bool ecrit = false;
+  try {
+    EcritFichierSur(fichier, [&](std::ostream& f) {
+      ecrit = ecrivain.WriteGltfSceneToStream(&m, f, true, true);
+      if (!ecrit) Leve(ErrChemin);
+    });
+  } catch (const ErreurExecution&) {
+    return false;
+  }
+  return ecrit;
 }
 
 void menExporteGltf() {

@@ -128,7 +128,7 @@ void SauveImage() {
     return;
   }
   const std::string fichier = RepertoireImages + "/" + Statistiques.NomFichBMP.Text;
-  if (!Ima.Image().save(QString::fromStdString(fichier), "BMP")) Leve(ErrChemin);
+  if (!EcritImage(Ima.Image(), fichier, "BMP")) Leve(ErrChemin);
 }
 
 // The node value files read anew: the times of the files' kind apply.

@@ -26,7 +26,7 @@ void ImaMouseMove(int, int, double x, double y) {
 
 void ImaMouseUp(int bouton, int maj, double x, double y) {
   if (CommandesSuspendues) return;
-  if (ClicSurImage) ClicSurImage(x, y, bouton);
+  if (ClicSurImage && ClicSurImage(x, y, bouton)) return;
   EntreeMenu* zoom = Orva.Menu("menZoomSouris");
   if (!zoom || !zoom->Checked) return;
   // A press and release closer than 50 (sum of the two distances) is a click, not a drag.

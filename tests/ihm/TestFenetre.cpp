@@ -38,6 +38,8 @@
 #include "appli/Composition.h"
 #include "appli/Demarrage.h"
 #include "dessin/Surface.h"
+#include "edition/Digitalisation.h"
+#include "edition/ModifArcs.h"
 #include "ihm/BoitePolice.h"
 #include "ihm/DialogueQt.h"
 #include "ihm/FenetrePrincipale.h"
@@ -175,6 +177,7 @@ const EntreeAttendue kMenus[] = {
     {"menAfficheRonds", "menAffichePopulations", "Les &populations"},
     {"menAfficheRonds", "menAfficheAutoAttractions", "Les a&uto-attractions"},
     {"menVilles", "menModifieNoeuds", "Mo&difie les noeuds..."},
+    {"menVilles", "menAnnulerNoeuds", "Annu&ler la dernière modification"},
     {"menVilles", "menOptionsAffichageVilles", "Paramétres d'affichage des n&oeuds..."},
     {"menVilles", "menOptionsAffichageNoms", "Seuils d'a&ffichage des noms..."},
     {"", "menArcs", "&Arcs"},
@@ -190,6 +193,7 @@ const EntreeAttendue kMenus[] = {
     {"menArcs", "menCouleursNoeuds", "Les &couleurs des noeuds"},
     {"menArcs", "menEchelleBlindéeArcs", "Echelle blin&dée"},
     {"menArcs", "menModifieOD", "&Modifie les arcs..."},
+    {"menArcs", "menAnnuler", "Annu&ler la dernière modification"},
     {"menArcs", "menDéveloppmentHoraire", "Développement &horaire"},
     {"menArcs", "menOptimisationHoraire", "Op&timisation horaire"},
     {"menArcs", "menElimineArcsDéconnectés", "Elimine arcs &déconnectés..."},
@@ -532,6 +536,33 @@ TEST_F(Ihm, StatistiquesPagesBornesEtGraphique) {
   QTest::mouseDClick(Enfant<QLineEdit>(d, "Text3"), Qt::LeftButton);
   EXPECT_EQ(FichierNoeudVal1, std::string(ORVA_SOURCE) + "/data/noeudval/stm312.dat");
   d->hide();
+}
+
+// The editing: a press on a value box of ModifArcs runs its Click (the value confirmed in a box of
+// its own); the window's close button acts as "Quitter"; Ctrl+Z belongs to the undo of the Arcs
+// menu, from any window of the program.
+TEST_F(Ihm, EditionBoitesDeValeurEtAnnulation) {
+  Clique("menModifieOD");
+  DialogueQt* d = DialogueDe("ModifArcs", fenetre);
+  ASSERT_NE(d, nullptr);
+  EXPECT_TRUE(d->isVisible());
+  EXPECT_TRUE(SelectionPaire);
+  int clics = 0;
+  ModifArcs.Capacite.Click = [&clics] { ++clics; };
+  auto* capacite = Enfant<QLineEdit>(d, "Capacité");
+  QTest::mouseClick(capacite, Qt::LeftButton);
+  QTRY_COMPARE(clics, 1);
+  QTest::mouseClick(capacite, Qt::RightButton);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(clics, 1);
+  d->close();
+  EXPECT_FALSE(d->isVisible());
+  EXPECT_FALSE(SelectionPaire);
+  QAction* annuler = fenetre->Action("menAnnuler");
+  EXPECT_EQ(annuler->shortcut(), QKeySequence("Ctrl+Z"));
+  EXPECT_EQ(annuler->shortcutContext(), Qt::ApplicationShortcut);
+  EXPECT_TRUE(fenetre->Action("menAnnulerNoeuds")->shortcut().isEmpty());
+  EXPECT_FALSE(annuler->isEnabled());
 }
 
 // Every dialog of every subsystem gets its widgets from its state alone, with access keys that
