@@ -591,10 +591,7 @@ void EcritArcsCouleursNoeudsDXF() {
   std::optional<std::string> r = Port().DialogueFichier(d);
   if (!r) return;
   PointeurOccupe occupe;
-  std::ofstream f = OuvreEcriture(*r);
-  EcritArcsCouleursNoeudsDXF(f);
-  f.flush();
-  if (!f) Leve(ErrChemin);
+  EcritFichierSur(*r, [](std::ostream& f) { EcritArcsCouleursNoeudsDXF(f); });
 }
 
 void EnregistreEntitesDXF() {

@@ -183,10 +183,7 @@ void EcritFichierDXF(std::ostream& out) {
 }
 
 void EcritFichierDXF() {
-  std::ofstream f = OuvreEcriture(NomFichierDXF);
-  EcritFichierDXF(f);
-  f.flush();
-  if (!f) Leve(ErrChemin);
+  EcritFichierSur(NomFichierDXF, [](std::ostream& f) { EcritFichierDXF(f); });
 }
 
 void menCreeFichDXF() {

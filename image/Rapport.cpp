@@ -63,11 +63,16 @@ class Document {
     const std::string erreur = InsereImageOdt(temporaire_, signet, image);
     if (!erreur.empty()) throw ErreurRapport{erreur};
   }
+  // The finished document takes the report's name whole, or the old report stays.
   void Enregistre() {
-    const QString cible = QString::fromStdString(rapport_);
-    QFile::remove(cible);
-    if (!QFile::rename(QString::fromStdString(temporaire_), cible))
+    QFile fait(QString::fromStdString(temporaire_));
+    if (!fait.open(QIODevice::ReadOnly)) throw ErreurRapport{"Le rapport " + rapport_ + " ne peut pas être écrit."};
+    const QByteArray octets = fait.readAll();
+    try {
+      EcritFichierSur(rapport_, [&](std::ostream& f) { f.write(octets.constData(), octets.size()); });
+    } catch (const ErreurExecution&) {
       throw ErreurRapport{"Le rapport " + rapport_ + " ne peut pas être écrit."};
+    }
   }
 
  private:
@@ -101,8 +106,9 @@ void Modele(const std::string& cartes, const std::string& modele, const std::str
 }
 
 void EcritJournal(const std::string& rapport) {
-  std::ofstream f(rapport.substr(0, rapport.size() - 4) + ".journal", std::ios::binary | std::ios::trunc);
-  for (long i = 1; i <= NbJournalRapport; ++i) EcritLigne(f, JournalRapport[i]);
+  EcritFichierSur(rapport.substr(0, rapport.size() - 4) + ".journal", [](std::ostream& f) {
+    for (long i = 1; i <= NbJournalRapport; ++i) EcritLigne(f, JournalRapport[i]);
+  });
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 #include "image/Vectoriel.h"
 
-#include <QFile>
+#include <QBuffer>
 #include <QPageLayout>
 #include <QPageSize>
 #include <QPainter>
@@ -40,19 +40,17 @@ bool Joue(QPaintDevice& appareil) {
   return peintre.end() && joue;
 }
 
-// Writes through a temporary name in the same folder, renamed over the target once complete.
+// Renders into memory, then writes the bytes whole or not at all: a failed write leaves any
+// existing file as it was.
 template <class Ecriture>
 bool EcritPuisRenomme(const std::string& chemin, Ecriture&& ecriture) {
-  const QString cible = QString::fromStdString(chemin);
-  const QString temporaire = cible + ".orva-tmp";
-  QFile::remove(temporaire);
-  if (!ecriture(temporaire) || QFile(temporaire).size() == 0) {
-    QFile::remove(temporaire);
-    return false;
-  }
-  QFile::remove(cible);
-  if (!QFile::rename(temporaire, cible)) {
-    QFile::remove(temporaire);
+  QBuffer tampon;
+  tampon.open(QIODevice::WriteOnly);
+  if (!ecriture(tampon) || tampon.data().isEmpty()) return false;
+  const QByteArray octets = tampon.data();
+  try {
+    EcritFichierSur(chemin, [&](std::ostream& f) { f.write(octets.constData(), octets.size()); });
+  } catch (const ErreurExecution&) {
     return false;
   }
   return true;
@@ -81,9 +79,9 @@ void EnregistreVectoriel(const char* titre, const char* filtre, const char* nom,
 bool EcritSVG(const std::string& chemin) {
   if (!DessinEnregistre()) return false;
   const int largeur = static_cast<int>(ImaVec.ScaleWidth()), hauteur = static_cast<int>(ImaVec.ScaleHeight());
-  return EcritPuisRenomme(chemin, [&](const QString& nom) {
+  return EcritPuisRenomme(chemin, [&](QBuffer& tampon) {
     QSvgGenerator svg;
-    svg.setFileName(nom);
+    svg.setOutputDevice(&tampon);
     svg.setSize(QSize(largeur, hauteur));
     svg.setViewBox(QRect(0, 0, largeur, hauteur));
     svg.setResolution(96);
@@ -95,8 +93,8 @@ bool EcritSVG(const std::string& chemin) {
 
 bool EcritPDF(const std::string& chemin) {
   if (!DessinEnregistre()) return false;
-  return EcritPuisRenomme(chemin, [&](const QString& nom) {
-    QPdfWriter pdf(nom);
+  return EcritPuisRenomme(chemin, [&](QBuffer& tampon) {
+    QPdfWriter pdf(&tampon);
     pdf.setCreator("ORVA");
     pdf.setTitle(QString::fromStdString(NomCourt(FichierNoeuds)));
     pdf.setResolution(96);
