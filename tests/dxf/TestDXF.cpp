@@ -13,6 +13,8 @@
 #include "graphe/Modes.h"
 #include "noyau/Conversions.h"
 #include "noyau/Def.h"
+#include "noyau/Erreurs.h"
+#include "noyau/Fichiers.h"
 #include "noyau/Valeurs.h"
 #include "relief/TraceRelief.h"
 #include "valeurs/CouchesArcVal.h"
@@ -325,6 +327,20 @@ TEST_F(SortieDxf, LeNoeud248PerdSonNom) {
   EXPECT_EQ(Noeuds[248].Nom.s, std::string(50, ' '));
   EXPECT_EQ(RTrim(Noeuds[247].Nom.s), "VILLE");
   EXPECT_EQ(RTrim(Noeuds[249].Nom.s), "VILLE");
+}
+
+// The command's file takes the place of an old one whole; a folder that does not exist gets the
+// path error and nothing is made.
+TEST_F(SortieDxf, FichierEcritEntierOuPasDuTout) {
+  std::ostringstream attendu;
+  EcritFichierDXF(attendu);
+  DossierTemporaire d;
+  NomFichierDXF = d.Fichier("reseau.dxf", "ancien");
+  EcritFichierDXF();
+  EXPECT_EQ(LitOctets(NomFichierDXF), attendu.str());
+  NomFichierDXF = d.chemin + "/absent/reseau.dxf";
+  EXPECT_EQ(ErreurDe([] { EcritFichierDXF(); }), ErrChemin);
+  EXPECT_FALSE(ExisteChemin(d.chemin + "/absent"));
 }
 
 TEST(CouleursDxf, PaletteStandard) {
