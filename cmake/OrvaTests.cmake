@@ -6,7 +6,7 @@ include(GoogleTest)
 function(orva_add_test nom)
   cmake_parse_arguments(T "" "" "LIBS" ${ARGN})
   add_executable(${nom} ${T_UNPARSED_ARGUMENTS})
-  target_link_libraries(${nom} PRIVATE orvalogique GTest::gtest GTest::gtest_main orva_options ${T_LIBS})
+  target_link_libraries(${nom} PRIVATE orvalogique orvareferences GTest::gtest GTest::gtest_main orva_options ${T_LIBS})
   target_compile_definitions(${nom} PRIVATE ORVA_TESTS_DIR="${CMAKE_SOURCE_DIR}/tests")
   gtest_discover_tests(${nom}
     TEST_PREFIX "${nom}."

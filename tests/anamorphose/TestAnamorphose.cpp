@@ -16,6 +16,7 @@
 #include "noyau/Fichiers.h"
 #include "noyau/Orva.h"
 #include "relief/Valuation.h"
+#include "tests/references/Litteral.h"
 
 namespace orva {
 namespace {
@@ -72,25 +73,6 @@ class Anamorphose : public OrvaTest {
   ContexteJournal journal;
 };
 
-// The Shell sort as told, on the speeds read at each comparison.
-void TrieLitteral() {
-  for (long g = NbArcs / 2; g > 0; g /= 2) {
-    long limite = NbArcs - g, dernier = 0;
-    do {
-      dernier = 0;
-      for (long i = 1; i <= limite; ++i)
-        if (Vitesse(Arcs[i].Mode) < Vitesse(Arcs[i + g].Mode)) {
-          const float a = Arcs[i].Ana, b = Arcs[i + g].Ana;
-          std::swap(Arcs[i], Arcs[i + g]);
-          Arcs[i].Ana = a;
-          Arcs[i + g].Ana = b;
-          dernier = i;
-        }
-      limite = dernier - g;
-    } while (dernier != 0);
-  }
-}
-
 TEST_F(Anamorphose, TriParVitesseEtSelectionCommeLesBalayagesLitteraux) {
   std::mt19937 g(4242);
   const char* modes[] = {"Route70", "TGV", "Train", "Autoroute", "Ferry", "Avion", "Route50"};
@@ -104,7 +86,7 @@ TEST_F(Anamorphose, TriParVitesseEtSelectionCommeLesBalayagesLitteraux) {
       Arcs[i].Ana = static_cast<float>(100 + k);
     }
     const Tableau<Arc> depart = Arcs;
-    TrieLitteral();
+    litteral::TrieArcsParVitesse();
     // One arc per pair: the last in table order among the fastest.
     std::vector<int16_t> minimal;
     for (long i = 1; i <= NbArcs; ++i) {

@@ -9,6 +9,7 @@
 #include "graphe/Modifications.h"
 #include "noyau/Orva.h"
 #include "tests/edition/CommunEdition.h"
+#include "tests/references/Litteral.h"
 
 namespace orva {
 namespace {
@@ -115,42 +116,6 @@ TEST_F(NettoyageTest, ArcsDeconnectesParLeMenu) {
   EXPECT_EQ(Arcs[5].CodeOrigine, 97);
 }
 
-// The pass as told: for each arc, every later arc of the same mode and the same two nodes goes,
-// the records after it moving down by one place, eight fields each, the others staying with their
-// place. (The pass runs over the arcs still in the table, and looks again at the arc that has
-// moved into the place it left.)
-long DoublesLitteral() {
-  long n = NbArcs, compte = 0;
-  for (long i = 1; i <= n; ++i) {
-    for (long j = i + 1; j <= n;) {
-      const Arc &a = Arcs[i], &b = Arcs[j];
-      const bool meme = (a.CodeOrigine == b.CodeOrigine && a.CodeDestination == b.CodeDestination) ||
-                        (a.CodeOrigine == b.CodeDestination && a.CodeDestination == b.CodeOrigine);
-      if (b.Mode != a.Mode || !meme) {
-        ++j;
-        continue;
-      }
-      for (long k = j; k < n; ++k) {
-        Arc& d = Arcs[k];
-        const Arc& s = Arcs[k + 1];
-        d.CodeOrigine = s.CodeOrigine;
-        d.CodeDestination = s.CodeDestination;
-        d.IndiceOrigine = s.IndiceOrigine;
-        d.IndiceDestination = s.IndiceDestination;
-        d.Mode = s.Mode;
-        d.Longueur = s.Longueur;
-        d.Temps = s.Temps;
-        d.Minimal = s.Minimal;
-      }
-      --n;
-      ++compte;
-    }
-  }
-  NbArcs = static_cast<int32_t>(n);
-  Arcs.ReDimPreserve(n);
-  return compte;
-}
-
 TEST_F(NettoyageTest, ArcsDoublesCommeLaPasseRacontee) {
   std::mt19937 alea(20261123);
   for (int essai = 0; essai < 20; ++essai) {
@@ -169,7 +134,7 @@ TEST_F(NettoyageTest, ArcsDoublesCommeLaPasseRacontee) {
     }
     const Tableau<Arc> avant = Arcs;
     const int32_t nbAvant = NbArcs;
-    const long attendu = DoublesLitteral();
+    const long attendu = litteral::EliminationArcsDoubles();
     const Tableau<Arc> reference = Arcs;
     const int32_t nbReference = NbArcs;
     Arcs = avant;

@@ -17,75 +17,10 @@
 #include "noyau/Orva.h"
 #include "noyau/Progression.h"
 #include "tests/graphe/CommunGraphe.h"
+#include "tests/references/Litteral.h"
 
 namespace orva {
 namespace {
-
-// ---------------------------------------------------------------------------------------------
-// The references, word for word.
-
-void ImplementeIndicesUnArcLitteral(Arc& a) {
-  int trouve = 0;
-  long j = 0;
-  do {
-    j = j + 1;
-    if (a.CodeOrigine == Noeuds[j].Code) {
-      trouve = trouve + 1;
-      a.IndiceOrigine = CInt(static_cast<double>(j));
-    }
-    if (a.CodeDestination == Noeuds[j].Code) {
-      trouve = trouve + 1;
-      a.IndiceDestination = CInt(static_cast<double>(j));
-    }
-  } while (!(trouve == 2 || j == NbNoeuds));
-  if (trouve != 2) {
-    a.IndiceOrigine = 0;
-    a.IndiceDestination = 0;
-  }
-}
-
-void ImplementeIndicesArcsLitteral() {
-  const std::string texte = "Implémente les indices des arcs...";
-  AfficheProgression(NbArcs, 0, texte);
-  for (long i = 1; i <= NbArcs; ++i) {
-    ImplementeIndicesUnArcLitteral(Arcs[i]);
-    if (i % 10 == 0) AfficheProgression(NbArcs, i, texte);
-  }
-  AfficheProgression(NbArcs, NbArcs, texte);
-}
-
-int16_t Somme(const Arc& a) { return CInt(static_cast<double>(a.Depart) + a.Arrivee); }
-
-void DefinitOrientationArcsLitteral() {
-  Mode mode;
-  bool unVrai = false;
-  for (long i = 1; i <= NbArcs; ++i) {
-    ChercheModeParCode(Arcs[i].Mode, mode);
-    if (Somme(Arcs[i]) != 0 || mode.Fleches != 0) Arcs[i].Orientation = Vrai;
-    else Arcs[i].Orientation = Faux;
-    if (Arcs[i].Orientation == Vrai) unVrai = true;
-  }
-  if (!unVrai) return;
-  const std::string texte = "Définit l'orientation des arcs...";
-  AfficheProgression(NbArcs, 0, texte);
-  for (long i = 1; i <= NbArcs; ++i) {
-    if (Arcs[i].Orientation == Vrai && Somme(Arcs[i]) == 0) {
-      long j = 0;
-      do {
-        j = j + 1;
-        if (Arcs[j].Orientation == Vrai && Arcs[j].Mode == Arcs[i].Mode &&
-            Arcs[j].CodeOrigine == Arcs[i].CodeDestination && Arcs[j].CodeDestination == Arcs[i].CodeOrigine &&
-            Somme(Arcs[j]) == 0) {
-          Arcs[j].Orientation = Faux;
-          Arcs[i].Orientation = Faux;
-          break;
-        }
-      } while (j != NbArcs);
-    }
-    if (i % 10 == 0) AfficheProgression(NbArcs, i, texte);
-  }
-  AfficheProgression(NbArcs, NbArcs, texte);
-}
 
 // ---------------------------------------------------------------------------------------------
 // The state both versions act on, and its comparison.
@@ -290,7 +225,7 @@ TEST_F(IndicesArcs, AleatoiresLitteralEtIndexe) {
       a.IndiceDestination = static_cast<int16_t>(u(0, 50));
     }
     Orva.ProgressionVisible = u(0, 1) == 1;
-    CompareLitteralEtIndexe(ImplementeIndicesArcsLitteral, ImplementeIndicesArcs, "essai " + std::to_string(essai));
+    CompareLitteralEtIndexe(litteral::ImplementeIndicesArcs, ImplementeIndicesArcs, "essai " + std::to_string(essai));
     if (HasFatalFailure()) return;
   }
 }
@@ -317,7 +252,7 @@ TEST_F(IndicesArcs, GrandReseau) {
   // Each arc's indices depend only on itself: a sample against the literal scan.
   for (long i = 1; i <= NbArcs; i += 97) {
     Arc a = avant[i];
-    ImplementeIndicesUnArcLitteral(a);
+    litteral::ImplementeIndicesUnArc(a);
     ASSERT_EQ(a.IndiceOrigine, Arcs[i].IndiceOrigine) << i;
     ASSERT_EQ(a.IndiceDestination, Arcs[i].IndiceDestination) << i;
   }
@@ -409,7 +344,7 @@ TEST_F(OrientationArcs, AleatoiresLitteralEtIndexe) {
       if (u(0, 300) == 0) a.Depart = a.Arrivee = 20000;
       a.Orientation = static_cast<Booleen>(u(0, 1) ? Vrai : Faux);
     }
-    CompareLitteralEtIndexe(DefinitOrientationArcsLitteral, DefinitOrientationArcs, "essai " + std::to_string(essai));
+    CompareLitteralEtIndexe(litteral::DefinitOrientationArcs, DefinitOrientationArcs, "essai " + std::to_string(essai));
     if (HasFatalFailure()) return;
   }
 }

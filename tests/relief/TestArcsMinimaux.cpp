@@ -6,82 +6,10 @@
 #include "noyau/Orva.h"
 #include "relief/ArcsMinimaux.h"
 #include "tests/relief/CommunRelief.h"
+#include "tests/references/Litteral.h"
 
 namespace orva {
 namespace {
-
-int Vitesse(int code) {
-  Mode m;
-  ChercheModeParCode(code, m);
-  return m.Vitesse;
-}
-
-bool MemePaire(const Arc& a, const Arc& b) {
-  return (a.CodeOrigine == b.CodeOrigine && a.CodeDestination == b.CodeDestination) ||
-         (a.CodeOrigine == b.CodeDestination && a.CodeDestination == b.CodeOrigine);
-}
-
-// The selection as the steps tell it: quadratic scans of the whole table.
-void SelectionneLitteral() {
-  for (long i = 1; i <= NbArcs; ++i) Arcs[i].Minimal = 0;
-  const bool tgv = Coche(OptionsRelief.TGV), autoroute = Coche(OptionsRelief.Autoroute), train = Coche(OptionsRelief.Train);
-  bool aucun = false;
-  if (tgv) {
-    ModeRelief1 = CodeMode("TGV");
-    if (autoroute) {
-      ModeRelief2 = CodeMode("Autoroute");
-      if (train) ModeRelief3 = CodeMode("Train");
-    } else if (train) {
-      ModeRelief2 = CodeMode("Train");
-      ModeRelief3 = 0;
-    }
-  } else if (autoroute) {
-    ModeRelief1 = CodeMode("Autoroute");
-    ModeRelief2 = train ? CodeMode("Train") : 0;
-    ModeRelief3 = 0;
-  } else if (train) {
-    ModeRelief1 = CodeMode("Train");
-    ModeRelief2 = ModeRelief3 = 0;
-  } else {
-    aucun = true;
-  }
-  for (long i = 1; i <= NbArcs; ++i)
-    for (const char* n : {"Route70", "Route60", "Route50", "Voie express interurb.", "Voie rapide urb. 65",
-                          "Artère urbaine", "Boulevard urbain", "Voie urbaine"})
-      if (Arcs[i].Mode == CodeMode(n)) Arcs[i].Minimal = 1;
-  if (aucun) return;
-  for (int passe = 0; passe < 2; ++passe)
-    for (long i = 1; i <= NbArcs; ++i) {
-      if (Arcs[i].Minimal != 1) continue;
-      const int v = Vitesse(Arcs[i].Mode);
-      long j = 0;
-      bool echange = false;
-      do {
-        ++j;
-        const Arc& b = Arcs[j];
-        const bool retenu = b.Mode == ModeRelief1 || b.Mode == ModeRelief2 || b.Mode == ModeRelief3;
-        if (b.Minimal != 1 && retenu && MemePaire(Arcs[i], b) && Vitesse(b.Mode) > v) {
-          Arcs[j].Minimal = 1;
-          Arcs[i].Minimal = 0;
-          echange = true;
-        }
-      } while (j < NbArcs && !echange);
-    }
-  if (tgv || autoroute)
-    for (long i = 1; i <= NbArcs; ++i)
-      if (Arcs[i].Mode == CodeMode(tgv ? "TGV" : "Autoroute") && Arcs[i].Minimal == 0) Arcs[i].Minimal = 2;
-  if (tgv && autoroute)
-    for (long i = 1; i <= NbArcs; ++i) {
-      if (Arcs[i].Mode != CodeMode("Autoroute") || Arcs[i].Minimal != 0) continue;
-      Arcs[i].Minimal = 2;
-      for (long j = 1; j <= NbArcs; ++j)
-        if (Arcs[j].Mode == CodeMode("TGV") && MemePaire(Arcs[i], Arcs[j])) {
-          Arcs[i].Minimal = 0;
-          Arcs[j].Minimal = 1;
-          break;
-        }
-    }
-}
 
 class ArcsMinimaux : public ReliefTest {
  protected:
@@ -187,7 +115,7 @@ TEST_F(ArcsMinimaux, CommeLesBalayagesLitteraux) {
                                static_cast<int16_t>(g() % 2 ? 4 : 0)};
     Cases(tgv, autoroute, train);
     ModeRelief1 = depart[0], ModeRelief2 = depart[1], ModeRelief3 = depart[2];
-    SelectionneLitteral();
+    litteral::SelectionneArcsMinimaux();
     const std::vector<int16_t> attendu = Marques();
     const int16_t r1 = ModeRelief1, r2 = ModeRelief2, r3 = ModeRelief3;
     ModeRelief1 = depart[0], ModeRelief2 = depart[1], ModeRelief3 = depart[2];
