@@ -9,6 +9,7 @@
 #include "graphe/FichiersArcs.h"
 #include "noyau/Def.h"
 #include "noyau/Orva.h"
+#include "tests/references/Litteral.h"
 
 namespace orva {
 namespace {
@@ -35,6 +36,24 @@ void BM_Anamorphose(benchmark::State& etat) {
   }
 }
 BENCHMARK(BM_Anamorphose)->Unit(benchmark::kMillisecond)->Iterations(2);
+
+// The sort by speed that opens the anamorphosis, on every arc of the network.
+template <bool Litteral>
+void TriParVitesse(benchmark::State& etat) {
+  ChargeGrandReseau();
+  const Tableau<Arc> arcs = Arcs;
+  for (auto _ : etat) {
+    etat.PauseTiming();
+    Arcs = arcs;
+    etat.ResumeTiming();
+    if constexpr (Litteral) litteral::TrieArcsParVitesse();
+    else TrieArcsParVitesse();
+  }
+}
+void BM_TriParVitesse(benchmark::State& etat) { TriParVitesse<false>(etat); }
+void BM_TriParVitesse_Litteral(benchmark::State& etat) { TriParVitesse<true>(etat); }
+BENCHMARK(BM_TriParVitesse)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_TriParVitesse_Litteral)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 }  // namespace
 }  // namespace orva

@@ -10,6 +10,7 @@
 #include "relief/ArcsMinimaux.h"
 #include "relief/OptionsRelief.h"
 #include "relief/TraceRelief.h"
+#include "tests/references/Litteral.h"
 #include "vue/Projection.h"
 
 namespace orva {
@@ -28,6 +29,12 @@ void BM_SelectionneArcsMinimaux(benchmark::State& etat) {
   for (auto _ : etat) SelectionneArcsMinimaux();
 }
 BENCHMARK(BM_SelectionneArcsMinimaux)->Unit(benchmark::kMillisecond);
+
+void BM_SelectionneArcsMinimaux_Litteral(benchmark::State& etat) {
+  Prepare();
+  for (auto _ : etat) litteral::SelectionneArcsMinimaux();
+}
+BENCHMARK(BM_SelectionneArcsMinimaux_Litteral)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 void BM_TraceRelief(benchmark::State& etat) {
   Prepare();

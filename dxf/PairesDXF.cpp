@@ -1,5 +1,6 @@
 #include "dxf/PairesDXF.h"
 
+#include <charconv>
 #include <string>
 
 #include "noyau/Chaines.h"
@@ -8,7 +9,23 @@
 namespace orva {
 
 void PairesDXF::Texte(int code, std::string_view valeur) {
-  EcritLigne(out_, std::to_string(code) + "\r" + std::string(valeur));
+  // The pair made whole, then handed to the stream's buffer in one call: a DXF of a large network
+  // holds millions of pairs. Numbers and plain names go out as they are; other text is converted
+  // to Windows-1252 as every line ORVA writes.
+  bool ascii = true;
+  for (char c : valeur) ascii = ascii && static_cast<unsigned char>(c) < 0x80;
+  std::string& ligne = ligne_;
+  ligne.clear();
+  char tampon[16];
+  const auto r = std::to_chars(tampon, tampon + sizeof tampon, code);
+  ligne.append(tampon, r.ptr);
+  ligne += '\r';
+  if (ascii) ligne.append(valeur);
+  else ligne += Utf8VersCp1252(valeur);
+  ligne += "\r\n";
+  std::streambuf* tampon_sortie = out_.good() ? out_.rdbuf() : nullptr;
+  const auto taille = static_cast<std::streamsize>(ligne.size());
+  if (!tampon_sortie || tampon_sortie->sputn(ligne.data(), taille) != taille) out_.setstate(std::ios::badbit);
 }
 
 void PairesDXF::Entier(int code, long valeur) { Texte(code, CStr(valeur)); }

@@ -5,6 +5,7 @@
 #pragma once
 #include <cstdint>
 #include <ostream>
+#include <string>
 #include <string_view>
 
 namespace orva {
@@ -22,6 +23,7 @@ class PairesDXF {
 
  private:
   std::ostream& out_;
+  std::string ligne_;  // the pair being made, its storage kept from one pair to the next
 };
 
 }  // namespace orva

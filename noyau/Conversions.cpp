@@ -132,21 +132,33 @@ struct Decimal {
   int exposant = 0;      // value = 0.d1d2d3... x 10^(exposant)
 };
 
+// The significant digits of a > 0 rounded to sig of them, trailing zeros dropped, written into
+// chiffres (at least 20 chars); returns their count and sets the power of ten of the first.
+int ChiffresSignificatifs(double a, int sig, char* chiffres, int& exposant) {
+  // "d.ddddde+xx" read in place: the digits without the point, then the signed exponent.
+  char buf[64];
+  const auto r = std::to_chars(buf, buf + sizeof buf, a, std::chars_format::scientific, sig - 1);
+  const char* p = buf;
+  int n = 0;
+  while (p < r.ptr && *p != 'e') {
+    if (*p != '.') chiffres[n++] = *p;
+    ++p;
+  }
+  int ex = 0;
+  if (p < r.ptr) std::from_chars(p + (p[1] == '+' ? 2 : 1), r.ptr, ex);
+  exposant = ex + 1;
+  while (n > 1 && chiffres[n - 1] == '0') --n;
+  return n;
+}
+
 Decimal EnDecimal(double v, int sig) {
   Decimal d;
   d.negatif = std::signbit(v) && v != 0;
   double a = std::fabs(v);
   if (a == 0) { d.chiffres = "0"; d.exposant = 1; return d; }
-  char buf[64];
-  auto r = std::to_chars(buf, buf + sizeof buf, a, std::chars_format::scientific, sig - 1);
-  std::string s(buf, r.ptr);
-  auto e = s.find('e');
-  std::string m = s.substr(0, e);
-  int ex = std::stoi(s.substr(e + 1));
-  for (char c : m)
-    if (c != '.') d.chiffres += c;
-  d.exposant = ex + 1;
-  while (d.chiffres.size() > 1 && d.chiffres.back() == '0') d.chiffres.pop_back();
+  char chiffres[32];
+  const int n = ChiffresSignificatifs(a, sig, chiffres, d.exposant);
+  d.chiffres.assign(chiffres, static_cast<std::size_t>(n));
   return d;
 }
 
@@ -201,30 +213,43 @@ std::string Minuscules(std::string_view s) {
 
 std::string TexteNombre(double v, int sig, char separateur, bool pourStr) {
   if (std::isnan(v)) return "NaN";
-  Decimal d = EnDecimal(v, sig);
-  std::string r;
-  if (d.chiffres == "0") return "0";
-  int ex = d.exposant - 1;  // scientific exponent
+  if (v == 0) return "0";
+  if (std::isinf(v)) Leve(ErrDepassement);
+  // Built in a buffer of its own: millions of numbers go through here when a large file is written.
+  char c[32];
+  int exposant = 0;
+  const int n = ChiffresSignificatifs(std::fabs(v), sig, c, exposant);
+  char r[64];
+  int k = 0;
+  if (std::signbit(v)) r[k++] = '-';
+  const int ex = exposant - 1;  // scientific exponent
   // Scientific notation past the significant digits and below 1E-4.
-  bool scientifique = ex >= sig || ex <= -5;
-  if (scientifique) {
-    r = d.chiffres.substr(0, 1);
-    if (d.chiffres.size() > 1) r += separateur + d.chiffres.substr(1);
-    r += 'E';
-    r += ex < 0 ? '-' : '+';
-    std::string e = std::to_string(std::abs(ex));
-    if (e.size() < 2) e = "0" + e;
-    r += e;
-  } else if (d.exposant <= 0) {
-    r = (pourStr ? "" : "0") + std::string(1, separateur) + std::string(static_cast<std::size_t>(-d.exposant), '0') + d.chiffres;
-  } else if (static_cast<int>(d.chiffres.size()) <= d.exposant) {
-    r = d.chiffres + std::string(static_cast<std::size_t>(d.exposant) - d.chiffres.size(), '0');
+  if (ex >= sig || ex <= -5) {
+    r[k++] = c[0];
+    if (n > 1) {
+      r[k++] = separateur;
+      for (int i = 1; i < n; ++i) r[k++] = c[i];
+    }
+    r[k++] = 'E';
+    r[k++] = ex < 0 ? '-' : '+';
+    const int e = std::abs(ex);
+    if (e >= 100) r[k++] = static_cast<char>('0' + e / 100);
+    r[k++] = static_cast<char>('0' + e / 10 % 10);
+    r[k++] = static_cast<char>('0' + e % 10);
+  } else if (exposant <= 0) {
+    if (!pourStr) r[k++] = '0';
+    r[k++] = separateur;
+    for (int i = 0; i < -exposant; ++i) r[k++] = '0';
+    for (int i = 0; i < n; ++i) r[k++] = c[i];
+  } else if (n <= exposant) {
+    for (int i = 0; i < n; ++i) r[k++] = c[i];
+    for (int i = n; i < exposant; ++i) r[k++] = '0';
   } else {
-    r = d.chiffres.substr(0, static_cast<std::size_t>(d.exposant)) + separateur +
-        d.chiffres.substr(static_cast<std::size_t>(d.exposant));
+    for (int i = 0; i < exposant; ++i) r[k++] = c[i];
+    r[k++] = separateur;
+    for (int i = exposant; i < n; ++i) r[k++] = c[i];
   }
-  if (d.negatif) r = "-" + r;
-  return r;
+  return std::string(r, static_cast<std::size_t>(k));
 }
 
 }  // namespace
