@@ -5,6 +5,7 @@
 #include <fstream>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "dxf/PairesDXF.h"
 #include "dxf/SortieDXF.h"
@@ -326,16 +327,23 @@ void EcritTubesDXF(std::ostream& out) {
   const long n = static_cast<long>(SectionsTube);
   if (n < 1) Leve(ErrIndice);
   TubeDXF.ReDim(1, n);
+  // The cosine and sine of the angles that cut the ring, the same for every arc.
+  std::vector<double> cosinus(static_cast<std::size_t>(n) + 1), sinus(static_cast<std::size_t>(n) + 1);
+  for (long j = 0; j <= n; ++j) {
+    const double a = 2 * kPiTubes * static_cast<double>(j) / SectionsTube;
+    cosinus[static_cast<std::size_t>(j)] = std::cos(a);
+    sinus[static_cast<std::size_t>(j)] = std::sin(a);
+  }
   // The faces of a ring of radius e around (xa, ya, za) to a ring around (xb, yb, zb).
   auto anneaux = [&](double e, double xa, double ya, double za, double xb, double yb, double zb) {
     for (long j = 1; j <= n; ++j) {
-      const double a = 2 * kPiTubes * static_cast<double>(j - 1) / SectionsTube;
-      const double b = 2 * kPiTubes * static_cast<double>(j) / SectionsTube;
+      const double ca = cosinus[static_cast<std::size_t>(j - 1)], sa = sinus[static_cast<std::size_t>(j - 1)];
+      const double cb = cosinus[static_cast<std::size_t>(j)], sb = sinus[static_cast<std::size_t>(j)];
       QuadDXF& q = TubeDXF[j];
-      Coin(q, 1, e * std::cos(a) + xa, e * std::sin(a) + ya, za);
-      Coin(q, 2, e * std::cos(b) + xa, e * std::sin(b) + ya, za);
-      Coin(q, 3, e * std::cos(b) + xb, e * std::sin(b) + yb, zb);
-      Coin(q, 4, e * std::cos(a) + xb, e * std::sin(a) + yb, zb);
+      Coin(q, 1, e * ca + xa, e * sa + ya, za);
+      Coin(q, 2, e * cb + xa, e * sb + ya, za);
+      Coin(q, 3, e * cb + xb, e * sb + yb, zb);
+      Coin(q, 4, e * ca + xb, e * sa + yb, zb);
     }
   };
   for (long i = 1; i <= NbArcs; ++i) {

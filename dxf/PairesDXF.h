@@ -22,6 +22,7 @@ class PairesDXF {
   void Point(int code, double x, double y, double z);
 
  private:
+  void Ecrit(int code, std::string_view valeur);  // the value already in the file's encoding
   std::ostream& out_;
   std::string ligne_;  // the pair being made, its storage kept from one pair to the next
 };

@@ -3,6 +3,7 @@
 #include <charconv>
 #include <clocale>
 #include <cmath>
+#include <cstring>
 #include <limits>
 
 #include "noyau/Erreurs.h"
@@ -211,15 +212,21 @@ std::string Minuscules(std::string_view s) {
   return r;
 }
 
-std::string TexteNombre(double v, int sig, char separateur, bool pourStr) {
-  if (std::isnan(v)) return "NaN";
-  if (v == 0) return "0";
+// The text of v written into r (64 characters at most); returns its length. Built in a buffer of
+// its own: millions of numbers go through here when a large file is written.
+int TexteNombreDans(char* r, double v, int sig, char separateur, bool pourStr) {
+  if (std::isnan(v)) {
+    std::memcpy(r, "NaN", 3);
+    return 3;
+  }
+  if (v == 0) {
+    r[0] = '0';
+    return 1;
+  }
   if (std::isinf(v)) Leve(ErrDepassement);
-  // Built in a buffer of its own: millions of numbers go through here when a large file is written.
   char c[32];
   int exposant = 0;
   const int n = ChiffresSignificatifs(std::fabs(v), sig, c, exposant);
-  char r[64];
   int k = 0;
   if (std::signbit(v)) r[k++] = '-';
   const int ex = exposant - 1;  // scientific exponent
@@ -249,11 +256,19 @@ std::string TexteNombre(double v, int sig, char separateur, bool pourStr) {
     r[k++] = separateur;
     for (int i = exposant; i < n; ++i) r[k++] = c[i];
   }
+  return k;
+}
+
+std::string TexteNombre(double v, int sig, char separateur, bool pourStr) {
+  char r[64];
+  const int k = TexteNombreDans(r, v, sig, separateur, pourStr);
   return std::string(r, static_cast<std::size_t>(k));
 }
 
 }  // namespace
 
+int CStrDans(char* tampon, double v) { return TexteNombreDans(tampon, v, 15, '.', false); }
+int CStrDans(char* tampon, float v) { return TexteNombreDans(tampon, static_cast<double>(v), 7, '.', false); }
 std::string CStr(double v, char separateur) { return TexteNombre(v, 15, separateur, false); }
 std::string CStr(float v, char separateur) { return TexteNombre(static_cast<double>(v), 7, separateur, false); }
 std::string CStr(long v) { return std::to_string(v); }

@@ -27,6 +27,9 @@ char SeparateurLocal();
 // CStr: the number's text with the given decimal mark, 15 significant digits (7 for 32-bit floats).
 std::string CStr(double v, char separateur = '.');
 std::string CStr(float v, char separateur = '.');
+// CStr with "." written into a buffer of 64 characters at least; returns the text's length.
+int CStrDans(char* tampon, double v);
+int CStrDans(char* tampon, float v);
 std::string CStr(long v);
 inline std::string CStr(int v) { return CStr(static_cast<long>(v)); }
 inline std::string CStr(int16_t v) { return CStr(static_cast<long>(v)); }
