@@ -42,18 +42,9 @@ template <bool Litteral>
 void TriParVitesse(benchmark::State& etat) {
   ChargeGrandReseau();
   const Tableau<Arc> arcs = Arcs;
-  for (auto _ : etat) {
-    etat.PauseTiming();
-    Arcs = arcs;
-    etat.ResumeTiming();
-    if constexpr (Litteral) litteral::TrieArcsParVitesse();
-    else TrieArcsParVitesse();
-  }
+  MesureSeule(etat, [&] { Arcs = arcs; }, [] { Litteral ? litteral::TrieArcsParVitesse() : TrieArcsParVitesse(); });
 }
-void BM_TriParVitesse(benchmark::State& etat) { TriParVitesse<false>(etat); }
-void BM_TriParVitesse_Litteral(benchmark::State& etat) { TriParVitesse<true>(etat); }
-BENCHMARK(BM_TriParVitesse)->Unit(benchmark::kMillisecond);
-BENCHMARK(BM_TriParVitesse_Litteral)->Unit(benchmark::kMillisecond)->Iterations(1);
+ORVA_PAIRE(TriParVitesse, TriParVitesse);
 
 }  // namespace
 }  // namespace orva

@@ -50,10 +50,22 @@ void Recalcul(benchmark::State& etat) {
     DefinitModesNoeuds();
   }
 }
-void BM_Recalcul(benchmark::State& etat) { Recalcul<false>(etat); }
-void BM_Recalcul_Litteral(benchmark::State& etat) { Recalcul<true>(etat); }
-BENCHMARK(BM_Recalcul)->Unit(benchmark::kMillisecond);
-BENCHMARK(BM_Recalcul_Litteral)->Unit(benchmark::kMillisecond)->Iterations(1);
+ORVA_PAIRE(Recalcul, Recalcul);
+
+// The two passes of the recomputation that scan the tables, each alone beside its literal form.
+template <bool Litteral>
+void Indices(benchmark::State& etat) {
+  ChargeGrandReseau();
+  MesureSeule(etat, [] {}, [] { Litteral ? litteral::ImplementeIndicesArcs() : ImplementeIndicesArcs(); });
+}
+ORVA_PAIRE(ImplementeIndicesArcs, Indices);
+
+template <bool Litteral>
+void Orientation(benchmark::State& etat) {
+  ChargeGrandReseau();
+  MesureSeule(etat, [] {}, [] { Litteral ? litteral::DefinitOrientationArcs() : DefinitOrientationArcs(); });
+}
+ORVA_PAIRE(DefinitOrientationArcs, Orientation);
 
 // The readers and the recomputation together, as at start-up.
 void BM_LectureEtRecalcul(benchmark::State& etat) {

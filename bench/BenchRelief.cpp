@@ -24,17 +24,12 @@ void Prepare() {
   OptionsRelief.Route.Value = 1;
 }
 
-void BM_SelectionneArcsMinimaux(benchmark::State& etat) {
+template <bool Litteral>
+void ArcsMinimaux(benchmark::State& etat) {
   Prepare();
-  for (auto _ : etat) SelectionneArcsMinimaux();
+  MesureSeule(etat, [] {}, [] { Litteral ? litteral::SelectionneArcsMinimaux() : SelectionneArcsMinimaux(); });
 }
-BENCHMARK(BM_SelectionneArcsMinimaux)->Unit(benchmark::kMillisecond);
-
-void BM_SelectionneArcsMinimaux_Litteral(benchmark::State& etat) {
-  Prepare();
-  for (auto _ : etat) litteral::SelectionneArcsMinimaux();
-}
-BENCHMARK(BM_SelectionneArcsMinimaux_Litteral)->Unit(benchmark::kMillisecond)->Iterations(1);
+ORVA_PAIRE(SelectionneArcsMinimaux, ArcsMinimaux);
 
 void BM_TraceRelief(benchmark::State& etat) {
   Prepare();

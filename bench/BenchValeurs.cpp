@@ -33,10 +33,45 @@ void Ronds(benchmark::State& etat) {
   }
   etat.counters["valeurs"] = NbNoeudVal;
 }
-void BM_Ronds(benchmark::State& etat) { Ronds<false>(etat); }
-void BM_Ronds_Litteral(benchmark::State& etat) { Ronds<true>(etat); }
-BENCHMARK(BM_Ronds)->Unit(benchmark::kMillisecond);
-BENCHMARK(BM_Ronds_Litteral)->Unit(benchmark::kMillisecond)->Iterations(1);
+ORVA_PAIRE(Ronds, Ronds);
+
+// The passes of the values that search and sort, each alone beside its literal form: the node of
+// each value, the node values by size, the nodes of each pair value, the pair values by size.
+template <bool Litteral>
+void ValeursNoeuds(benchmark::State& etat) {
+  ChargeGrandReseau();
+  ChargeNoeudVal1(DossierGrandReseau() + "/stm6000.dat");
+  MesureSeule(etat, [] {}, [] { Litteral ? litteral::CalculeValeursNoeuds("Valeur1") : CalculeValeursNoeuds("Valeur1"); });
+}
+ORVA_PAIRE(CalculeValeursNoeuds, ValeursNoeuds);
+
+template <bool Litteral>
+void TriNoeudVals(benchmark::State& etat) {
+  ChargeGrandReseau();
+  ChargeNoeudVal1(DossierGrandReseau() + "/stm6000.dat");
+  CalculeValeursNoeuds("Valeur1");
+  const auto avant = NoeudVals;
+  MesureSeule(etat, [&] { NoeudVals = avant; }, [] { Litteral ? litteral::TrieNoeudVals() : TrieNoeudVals(); });
+}
+ORVA_PAIRE(TrieNoeudVals, TriNoeudVals);
+
+template <bool Litteral>
+void IndicesArcVal(benchmark::State& etat) {
+  ChargeGrandReseau();
+  ChargeArcVal1(DossierGrandReseau() + "/3ar18500.dat");
+  MesureSeule(etat, [] {}, [] { Litteral ? litteral::ImplementeIndicesDesArcVal1() : ImplementeIndicesDesArcVal1(); });
+}
+ORVA_PAIRE(ImplementeIndicesDesArcVal1, IndicesArcVal);
+
+template <bool Litteral>
+void TriArcVal(benchmark::State& etat) {
+  ChargeGrandReseau();
+  ChargeArcVal1(DossierGrandReseau() + "/3ar18500.dat");
+  ImplementeIndicesDesArcVal1();
+  const auto avant = ArcVal1;
+  MesureSeule(etat, [&] { ArcVal1 = avant; }, [] { Litteral ? litteral::TrieArcVal() : TrieArcVal(); });
+}
+ORVA_PAIRE(TrieArcVal, TriArcVal);
 
 // The arc values read, their nodes found, sorted, and the flows drawn with the afflux of nodes.
 template <bool Litteral>
@@ -57,10 +92,7 @@ void Flux(benchmark::State& etat) {
   }
   etat.counters["valeurs"] = NbArcVal1;
 }
-void BM_Flux(benchmark::State& etat) { Flux<false>(etat); }
-void BM_Flux_Litteral(benchmark::State& etat) { Flux<true>(etat); }
-BENCHMARK(BM_Flux)->Unit(benchmark::kMillisecond);
-BENCHMARK(BM_Flux_Litteral)->Unit(benchmark::kMillisecond)->Iterations(1);
+ORVA_PAIRE(Flux, Flux);
 
 }  // namespace
 }  // namespace orva
