@@ -264,53 +264,87 @@ void ImplementeIndicesArcs() {
 // destination code) in table order; an arc leaves the candidates only by being paired, so the
 // first still-oriented entry of the reversed group of i is that first j (i itself for a loop).
 void DefinitOrientationArcs() {
-  Mode mode;
+  // The arrows of each mode code, looked up once: 1 or 0, or -1 for a code of no mode, which keeps
+  // the arrows of the arc before as the lookup of a mode leaves its record unchanged.
+  std::vector<int8_t> fleches(65536, -2);  // -2: not looked up yet
+  int flechesCourantes = 0;
+  const auto n = static_cast<std::size_t>(std::max<int32_t>(NbArcs, 0));
+  std::vector<uint8_t> sansHoraire(n + 1);
   bool unVrai = false;
   for (long i = 1; i <= NbArcs; ++i) {
     Arc& a = Arcs[i];
-    ChercheModeParCode(a.Mode, mode);
-    a.Orientation = (SommeHoraire(a) != 0 || mode.Fleches != 0) ? Vrai : Faux;
+    int8_t& f = fleches[static_cast<uint16_t>(a.Mode)];
+    if (f == -2) {
+      f = -1;
+      for (const Mode& m : ModesSysteme)
+        if (m.Code == a.Mode) {
+          f = m.Fleches != 0 ? 1 : 0;
+          break;
+        }
+    }
+    if (f >= 0) flechesCourantes = f;
+    const bool horaire = SommeHoraire(a) != 0;
+    sansHoraire[static_cast<std::size_t>(i)] = !horaire;
+    a.Orientation = (horaire || flechesCourantes != 0) ? Vrai : Faux;
     if (a.Orientation == Vrai) unVrai = true;
   }
   if (!unVrai) return;
 
-  struct Cle {
-    int32_t origine, destination;
-    int16_t mode;
-    bool operator==(const Cle& c) const {
-      return origine == c.origine && destination == c.destination && mode == c.mode;
-    }
+  // The oriented arcs without timetable grouped by (origin, destination, mode), each group in table
+  // order: an open-addressing table gives each key its group, then the groups lie side by side.
+  struct Case {
+    int32_t origine = 0, destination = 0;
+    int16_t mode = 0;
+    int32_t groupe = -1;
   };
-  struct HacheCle {
-    std::size_t operator()(const Cle& c) const {
-      uint64_t h = static_cast<uint32_t>(c.origine);
-      h = h * 0x9E3779B97F4A7C15ull ^ static_cast<uint32_t>(c.destination);
-      h = h * 0x9E3779B97F4A7C15ull ^ static_cast<uint16_t>(c.mode);
-      return static_cast<std::size_t>(h ^ (h >> 29));
-    }
+  std::size_t capacite = 16;
+  while (capacite < 2 * n) capacite *= 2;
+  std::vector<Case> cases(capacite);
+  auto place = [&cases, capacite](int32_t o, int32_t d, int16_t m) -> Case& {
+    uint64_t h = static_cast<uint32_t>(o);
+    h = h * 0x9E3779B97F4A7C15ull ^ static_cast<uint32_t>(d);
+    h = h * 0x9E3779B97F4A7C15ull ^ static_cast<uint16_t>(m);
+    std::size_t k = static_cast<std::size_t>(h ^ (h >> 29)) & (capacite - 1);
+    while (cases[k].groupe >= 0 && !(cases[k].origine == o && cases[k].destination == d && cases[k].mode == m))
+      k = (k + 1) & (capacite - 1);
+    return cases[k];
   };
-  struct Groupe {
-    std::vector<long> arcs;  // in table order
-    std::size_t tete = 0;    // entries before it are no longer oriented
-  };
-  std::unordered_map<Cle, Groupe, HacheCle> groupes;
+  std::vector<int32_t> groupeDeLArc(n + 1, -1), taille;
   for (long j = 1; j <= NbArcs; ++j) {
     const Arc& a = Arcs[j];
-    if (a.Orientation == Vrai && SommeHoraire(a) == 0)
-      groupes[Cle{a.CodeOrigine, a.CodeDestination, a.Mode}].arcs.push_back(j);
+    if (a.Orientation != Vrai || !sansHoraire[static_cast<std::size_t>(j)]) continue;
+    Case& c = place(a.CodeOrigine, a.CodeDestination, a.Mode);
+    if (c.groupe < 0) {
+      c = Case{a.CodeOrigine, a.CodeDestination, a.Mode, static_cast<int32_t>(taille.size())};
+      taille.push_back(0);
+    }
+    groupeDeLArc[static_cast<std::size_t>(j)] = c.groupe;
+    ++taille[static_cast<std::size_t>(c.groupe)];
+  }
+  // The arcs of group g are membres[debut[g] .. debut[g + 1]); tete[g] skips those no longer oriented.
+  std::vector<int32_t> debut(taille.size() + 1, 0), membres(n), tete;
+  for (std::size_t g = 0; g < taille.size(); ++g) debut[g + 1] = debut[g] + taille[g];
+  tete.assign(debut.begin(), debut.end() - 1);
+  {
+    std::vector<int32_t> suivant(tete);
+    for (long j = 1; j <= NbArcs; ++j) {
+      const int32_t g = groupeDeLArc[static_cast<std::size_t>(j)];
+      if (g >= 0) membres[static_cast<std::size_t>(suivant[static_cast<std::size_t>(g)]++)] = static_cast<int32_t>(j);
+    }
   }
 
   const std::string texte = "Définit l'orientation des arcs...";
   AfficheProgression(NbArcs, 0, texte);
   for (long i = 1; i <= NbArcs; ++i) {
     Arc& a = Arcs[i];
-    if (a.Orientation == Vrai && SommeHoraire(a) == 0) {
-      auto it = groupes.find(Cle{a.CodeDestination, a.CodeOrigine, a.Mode});
-      if (it != groupes.end()) {
-        Groupe& g = it->second;
-        while (g.tete < g.arcs.size() && Arcs[g.arcs[g.tete]].Orientation != Vrai) ++g.tete;
-        if (g.tete < g.arcs.size()) {
-          Arcs[g.arcs[g.tete]].Orientation = Faux;
+    if (a.Orientation == Vrai && sansHoraire[static_cast<std::size_t>(i)]) {
+      const Case& c = place(a.CodeDestination, a.CodeOrigine, a.Mode);
+      if (c.groupe >= 0) {
+        const auto g = static_cast<std::size_t>(c.groupe);
+        int32_t& t = tete[g];
+        while (t < debut[g + 1] && Arcs[membres[static_cast<std::size_t>(t)]].Orientation != Vrai) ++t;
+        if (t < debut[g + 1]) {
+          Arcs[membres[static_cast<std::size_t>(t)]].Orientation = Faux;
           a.Orientation = Faux;
         }
       }

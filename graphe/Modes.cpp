@@ -35,7 +35,16 @@ struct Famille {
 constexpr Famille kTGV{1, "TGV"}, kFER{5, "FER"}, kROU{9, "ROU"}, kAUT{13, "AUT"}, kBAT{17, "BAT"};
 
 void MarqueFamille(long indice, const Famille& f) {
-  std::string s = Noeuds[indice].Modes.str();
+  // The set as the recomputation writes it, in plain ASCII: the word goes in place.
+  std::string& enPlace = Noeuds[indice].Modes.s;
+  const auto p = static_cast<std::size_t>(f.position - 1);
+  bool ascii = enPlace.size() >= p + 3;
+  for (char c : enPlace) ascii = ascii && static_cast<unsigned char>(c) < 0x80;
+  if (ascii) {
+    enPlace.replace(p, 3, f.mot, 3);
+    return;
+  }
+  std::string s = enPlace;
   RemplaceMid(s, f.position, 3, f.mot);
   Noeuds[indice].Modes = s;
 }

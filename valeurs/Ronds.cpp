@@ -57,6 +57,7 @@ void CalculeValeursNoeuds(const std::string& genre) {
   const bool differences = Coche(Statistiques.ClassesDifferences);
   const bool absolues = Statistiques.ClasseDiffAbs.Value;
   std::unordered_map<int32_t, long> premier;
+  premier.reserve(static_cast<std::size_t>(std::max<int32_t>(NbNoeuds, 0)));
   for (long k = NbNoeuds; k >= 1; --k) premier[Noeuds[k].Code] = k;
   if (genre == "Populations") {
     for (long i = 1; i <= NbNoeuds; ++i) {
