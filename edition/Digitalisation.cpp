@@ -279,6 +279,11 @@ std::optional<QImage> LitImageFond(const std::string& chemin) {
   return image;
 }
 
+std::optional<QImage> LitMetaFichierFond(const std::vector<uint8_t>& octets) {
+  if (std::optional<MetaFichierLu> m = LitMetaFichier(octets)) return JoueMetaFichier(*m);
+  return std::nullopt;
+}
+
 void menChargeImageFond() {
   if (!ExisteRepertoire(RepertoireImages)) {
     Message("Il est nécéssaire de créer le répertoire c:\\data\\cartes\\images\\ \ret d'y placer un fichier quelconque.");

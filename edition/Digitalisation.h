@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "noyau/Def.h"
 
@@ -31,6 +32,9 @@ inline int32_t Code1 = 0, Code2 = 0;
 // metafile (placeable or not) played by ORVA's own player at its natural size. nullopt when the
 // file cannot be read or holds no picture.
 std::optional<QImage> LitImageFond(const std::string& chemin);
+// The metafile part of that reader on the bytes of a file: nullopt when they hold no metafile
+// or it draws nothing.
+std::optional<QImage> LitMetaFichierFond(const std::vector<uint8_t>& octets);
 
 // "Charge une image en fond...": the file chosen in RepertoireImages laid under Ima, then the
 // two questions of the digitising; NbClicsDigitalisation = 0.

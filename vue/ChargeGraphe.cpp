@@ -27,6 +27,10 @@ void menFichiersGraphe() {
     if (!ExisteFichier(FichierArcs)) return;
     ChargeArcsCourt(FichierArcs);
   }
+  MontreGrapheCharge();
+}
+
+void MontreGrapheCharge() {
   CalculeCoordonneesEcran();
   ImplementeIndicesArcs();
   DefinitOrientationArcs();

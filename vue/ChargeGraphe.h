@@ -8,5 +8,8 @@ namespace orva {
 // and runs the projection, the index passes, the mode sets and the node layer. A file that does
 // not exist ends the command after ExisteFichier's message; a cancelled dialog ends it quietly.
 void menFichiersGraphe();
+// What that command runs once the files are read: the projection, the index passes, the mode
+// sets, the view turned and tilted, and the node layer drawn on cleared pictures.
+void MontreGrapheCharge();
 
 }  // namespace orva

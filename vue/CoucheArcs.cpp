@@ -277,8 +277,14 @@ void TraceArcCouleurNoeuds(long i) {
 }
 
 void ChargeComparaisonArcs(int m) {
+  // Cleared before the file is opened: a missing file leaves no comparison behind.
   for (long i = 1; i <= NbArcs; ++i) ComparaisonArcs[i - 1] = 0;
   std::ifstream f = OuvreLecture(FichierComparaison);
+  ChargeComparaisonArcs(f, m);
+}
+
+void ChargeComparaisonArcs(std::istream& f, int m) {
+  for (long i = 1; i <= NbArcs; ++i) ComparaisonArcs[i - 1] = 0;
   while (!FinFichier(f)) {
     const std::string ligne = LitLigne(f);
     // The columns of the mode and of the time overlap; both are read as they stand.

@@ -5,6 +5,7 @@
 #pragma once
 #include <cstdint>
 #include <functional>
+#include <istream>
 
 #include "noyau/Def.h"
 #include "noyau/Tableau.h"
@@ -57,8 +58,9 @@ void TraceFleche(double x1, double y1, double x2, double y2);
 // recording every 71 arcs.
 void TraceArcCouleurNoeuds(long i);
 // Reads the comparison file FichierComparaison for mode m into ComparaisonArcs; pairs that the
-// graph lacks are added to Arcs (NbArcs grows).
+// graph lacks are added to Arcs (NbArcs grows). The stream form reads an open text.
 void ChargeComparaisonArcs(int m);
+void ChargeComparaisonArcs(std::istream& f, int m);
 
 // Commands: "Trace les arcs...", and the tick "Les couleurs des noeuds".
 void menTraceTrajets();

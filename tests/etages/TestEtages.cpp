@@ -22,7 +22,7 @@ namespace fs = std::filesystem;
 const fs::path kSource = fs::path(ORVA_TESTS_DIR).parent_path();
 
 // Folders that hold no part of the program.
-const std::set<std::string> kHorsProgramme = {"tests", "bench", "outils", "cmake", "data", "demo", "doc", ".ci", ".git"};
+const std::set<std::string> kHorsProgramme = {"tests", "bench", "fuzz", "outils", "cmake", "data", "demo", "doc", ".ci", ".git"};
 
 // One include of a folder by another, with the line that makes it.
 struct Inclusion {
