@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdio>
+#include <cstring>
 #include <optional>
 #include <unordered_map>
 #include <vector>
@@ -99,11 +101,12 @@ void CalculeValeurMaxArcs() {
   double plus = 0;
   for (long i = 1; i <= NbArcVal1; ++i)
     if (i == 1 || ArcVal1[i].Valeur > plus) plus = ArcVal1[i].Valeur;
-  // Rounded down to its leading digit.
-  const long entier = static_cast<long>(std::fabs(Int(plus)));
-  const std::string chiffres = std::to_string(entier);
+  // Rounded down to its leading digit; the digits of the whole part are written exactly, also
+  // beyond the range of a long (a float reaches 3.4E+38).
+  char chiffres[64];
+  std::snprintf(chiffres, sizeof chiffres, "%.0f", std::fabs(Int(plus)));
   const double d = chiffres[0] - '0';
-  ValeurMaxArcs = static_cast<float>((plus < 0 ? -d : d) * std::pow(10.0, static_cast<double>(chiffres.size() - 1)));
+  ValeurMaxArcs = static_cast<float>((plus < 0 ? -d : d) * std::pow(10.0, static_cast<double>(std::strlen(chiffres) - 1)));
 }
 
 void TrieArcVal() {
