@@ -40,6 +40,7 @@
 #include "dessin/Surface.h"
 #include "edition/Digitalisation.h"
 #include "edition/ModifArcs.h"
+#include "ihm/FenetreDeTest.h"
 #include "ihm/BoitePolice.h"
 #include "ihm/DialogueQt.h"
 #include "ihm/FenetrePrincipale.h"
@@ -61,28 +62,6 @@
 
 namespace orva {
 namespace {
-
-QApplication* ApplicationCreee = nullptr;
-
-QApplication* Application() {
-  static int argc = 1;
-  static char nom[] = "tests_ihm";
-  static char* argv[] = {nom, nullptr};
-  if (!ApplicationCreee) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    ApplicationCreee = new QApplication(argc, argv);
-  }
-  return ApplicationCreee;
-}
-
-// The application goes at the end of the run, and the fonts' caches with it.
-struct FinApplication : ::testing::Environment {
-  void TearDown() override {
-    delete ApplicationCreee;
-    ApplicationCreee = nullptr;
-  }
-};
-const auto* const kFinApplication = ::testing::AddGlobalTestEnvironment(new FinApplication);
 
 // Runs `f` on the modal widget named `nom` (any box of a Qt class for that class's name, as
 // "QMessageBox" or "QFileDialog") once it is up.
@@ -219,25 +198,8 @@ const EntreeAttendue kMenus[] = {
 
 class Ihm : public ::testing::Test {
  protected:
-  void SetUp() override {
-    Application();
-    ReinitialiseTout();
-    DefinitPort(&port);
-    fenetre = new FenetrePrincipale;
-    port.DefinitParent(fenetre);
-    port.Repeint = [this](const std::string& c) { fenetre->Repeint(c); };
-    DialogueQt::ApresAction = [this] { fenetre->Synchronise(); };
-    CandidatsRacine = {ORVA_SOURCE};
-    ChargePresentation();
-    fenetre->Synchronise();
-    fenetre->show();
-  }
-  void TearDown() override {
-    DialogueQt::ApresAction = nullptr;
-    DefinitPort(nullptr);
-    delete fenetre;
-    CandidatsRacine.clear();
-  }
+  void SetUp() override { fenetre = OuvreFenetre(port, ORVA_SOURCE); }
+  void TearDown() override { FermeFenetre(fenetre); }
   void Clique(const char* entree) {
     QAction* a = fenetre->Action(entree);
     ASSERT_NE(a, nullptr) << entree;
