@@ -67,6 +67,14 @@ class Repondeur : public QObject {
     entree = nom;
     ++generation_;
   }
+  // Clicks once each button of a dialog but those that close it; not in a dialog that a button
+  // of another one opened.
+  void EssaieLesBoutons(DialogueQt* d) {
+    if (dansUnDialogue_) return;
+    dansUnDialogue_ = true;
+    Clique(d, [](const std::string& t) { return t != "OK" && t != "Annuler" && t != "Quitter"; });
+    dansUnDialogue_ = false;
+  }
   // Once the application is there.
   void Demarre() {
     horloge_.setInterval(5);
@@ -153,26 +161,26 @@ class Repondeur : public QObject {
   // A dialog of a command: its other buttons tried once each, then "OK"; "Annuler" next time
   // (Escape), then "OK" and "Quitter" in turn.
   void RepondDialogue(DialogueQt* d, int n) {
-    auto clique = [d](auto&& garde) {
-      for (auto& [nom, c] : d->Etat().Controles()) {
-        if (!dynamic_cast<Bouton*>(c) || !garde(SansEsperluette(QString::fromStdString(c->Caption)))) continue;
-        auto* b = d->findChild<QAbstractButton*>(QString::fromStdString(nom));
-        if (!d->isVisible() || QApplication::activeModalWidget() != d) return;
-        if (b && b->isVisible() && b->isEnabled()) b->click();
-      }
-    };
-    auto fin = [](const std::string& t) { return t == "OK" || t == "Annuler" || t == "Quitter"; };
     if (n == 1 && maniere == Maniere::Accepte) {
-      if (!dansUnDialogue_) {
-        dansUnDialogue_ = true;
-        clique([&fin](const std::string& t) { return !fin(t); });
-        dansUnDialogue_ = false;
-      }
-      return clique([](const std::string& t) { return t == "OK"; });
+      EssaieLesBoutons(d);
+      return Clique(d, [](const std::string& t) { return t == "OK"; });
     }
     if (n == 2 || (n == 1 && maniere == Maniere::Refuse)) return static_cast<QDialog*>(d)->reject();
     const std::string voulu = n % 2 ? "OK" : "Quitter";
-    clique([&voulu](const std::string& t) { return t == voulu; });
+    Clique(d, [&voulu](const std::string& t) { return t == voulu; });
+  }
+
+  // Clicks the buttons of a dialog whose captions `garde` takes, in order, while the dialog stays
+  // up and, when it waits, in front.
+  template <class Garde>
+  static void Clique(DialogueQt* d, Garde garde) {
+    const bool enAttente = QApplication::activeModalWidget() == d;
+    for (auto& [nom, c] : d->Etat().Controles()) {
+      if (!dynamic_cast<Bouton*>(c) || !garde(SansEsperluette(QString::fromStdString(c->Caption)))) continue;
+      if (!d->isVisible() || (enAttente && QApplication::activeModalWidget() != d)) return;
+      auto* b = d->findChild<QAbstractButton*>(QString::fromStdString(nom));
+      if (b && b->isVisible() && b->isEnabled()) b->click();
+    }
   }
 
   QTimer horloge_;
@@ -219,9 +227,11 @@ class StressMenus : public ::testing::Test {
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
     for (Dialogue* d : Dialogues())
       EXPECT_FALSE(d->Modal && d->Visible && d->Nom != "Orva") << d->Nom;
-    // The dialogs a command leaves open beside the window are closed as a user would.
+    // The dialogs a command leaves open beside the window: their buttons tried, then closed as a
+    // user would.
     for (DialogueQt* d : fenetre->findChildren<DialogueQt*>())
       if (d->isVisible()) {
+        if (repondeur.maniere == Maniere::Accepte) repondeur.EssaieLesBoutons(d);
         d->close();
         EXPECT_FALSE(d->isVisible()) << d->Etat().Nom;
       }
