@@ -18,6 +18,8 @@ paquets=(
   libwmf-bin fonts-urw-base35
   # ezdxf, which reads the DXF output back in a test.
   python3-ezdxf
+  # clang and its libFuzzer, for the short fuzz pass of the readers.
+  clang libclang-rt-14-dev
 )
 
 manquants=()

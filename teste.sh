@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds ORVA and passes every test: once in the normal build, once
-# built with AddressSanitizer and UndefinedBehaviorSanitizer.
+# built with AddressSanitizer and UndefinedBehaviorSanitizer; then a short fuzz pass of the readers.
 set -euo pipefail
 racine="$(cd "$(dirname "$0")" && pwd)"
 cd "$racine"
@@ -20,3 +20,6 @@ export LSAN_OPTIONS="suppressions=$racine/outils/lsan.supp:print_suppressions=0"
 cmake -S . -B build-asan -DCMAKE_BUILD_TYPE=Debug -DORVA_SANITIZE=ON >/dev/null
 cmake --build build-asan -j"$coeurs"
 (cd build-asan && ctest --output-on-failure -j"$coeurs" --timeout 600)
+
+echo "== Passe courte de fuzzing des lecteurs ==" >&2
+bash "$racine/outils/fuzz-court.sh" 30

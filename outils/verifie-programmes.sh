@@ -18,4 +18,14 @@ elif ! wmf2svg -o "$tmp/ligne.svg" "$tmp/ligne.wmf" >"$tmp/wmf2svg.txt" 2>&1 || 
   echec=1
 fi
 
+# clang with libFuzzer, which the short fuzz pass builds its targets with.
+printf 'extern "C" int LLVMFuzzerTestOneInput(const unsigned char*, unsigned long) { return 0; }\n' > "$tmp/cible.cpp"
+if ! command -v clang++ >/dev/null 2>&1; then
+  echo "clang++ manque : installez le paquet clang." >&2
+  echec=1
+elif ! clang++ -fsanitize=fuzzer,address,undefined -o "$tmp/cible" "$tmp/cible.cpp" >"$tmp/clang.txt" 2>&1; then
+  echo "clang ne lie pas libFuzzer ($(head -c 200 "$tmp/clang.txt")) : installez le paquet libclang-rt-14-dev." >&2
+  echec=1
+fi
+
 exit $echec
