@@ -333,6 +333,8 @@ TEST_F(StressMenus, ReseauxCasses) {
     repondeur.saisie = p.saisie;
     ParcourtLesMenus();
     if (HasFatalFailure()) return;
+    ParcourtLesMenus(true);
+    if (HasFatalFailure()) return;
   }
   repondeur.maniere = Maniere::Refuse;
   ParcourtLesMenus();
