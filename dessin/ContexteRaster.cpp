@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <QPolygon>
 #include <algorithm>
+#include <cstdint>
+#include <limits>
 
 namespace orva {
 
@@ -185,21 +187,27 @@ void ContexteRaster::Polygon(const std::vector<PointI>& points) {
 // right and bottom edges, so an empty box draws nothing.
 template <class F>
 void ContexteRaster::DessineBoite(int x1, int y1, int x2, int y2, F&& dessine) {
-  int g = std::min(x1, x2), d = std::max(x1, x2), h = std::min(y1, y2), b = std::max(y1, y2);
-  if (d - g < 1 || b - h < 1) return;
+  const int g = std::min(x1, x2), d = std::max(x1, x2), h = std::min(y1, y2), b = std::max(y1, y2);
+  // The sides in 64 bits: corners far apart on both sides of 0 span more than an int holds.
+  const int64_t largeur = int64_t{d} - g, hauteur = int64_t{b} - h;
+  if (largeur < 1 || hauteur < 1) return;
   Peintre p(image_, peintre_);
   if (!p.actif) return;
   p.p->setPen(StyloQt(Resous(stylo_, StyloNoir)));
   p.p->setBrush(BrosseQt(Resous(brosse_, BrosseBlanche)));
-  dessine(*p.p, QRect(g, h, d - g - 1, b - h - 1));
+  constexpr int64_t plusGrand = std::numeric_limits<int>::max();
+  if (largeur <= plusGrand && hauteur <= plusGrand)
+    dessine(*p.p, QRect(g, h, static_cast<int>(largeur - 1), static_cast<int>(hauteur - 1)));
+  else
+    dessine(*p.p, QRectF(g, h, static_cast<double>(largeur - 1), static_cast<double>(hauteur - 1)));
 }
 
 void ContexteRaster::Ellipse(int x1, int y1, int x2, int y2) {
-  DessineBoite(x1, y1, x2, y2, [](QPainter& p, const QRect& r) { p.drawEllipse(r); });
+  DessineBoite(x1, y1, x2, y2, [](QPainter& p, const auto& r) { p.drawEllipse(r); });
 }
 
 void ContexteRaster::Rectangle(int x1, int y1, int x2, int y2) {
-  DessineBoite(x1, y1, x2, y2, [](QPainter& p, const QRect& r) { p.drawRect(r); });
+  DessineBoite(x1, y1, x2, y2, [](QPainter& p, const auto& r) { p.drawRect(r); });
 }
 
 void ContexteRaster::TextOut(int x, int y, const std::string& texte) {
