@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <string>
 
 #include "anamorphose/Anamorphose.h"
 #include "anamorphose/FrmAnamorphose.h"
@@ -83,8 +84,18 @@ TEST_F(Anamorphose, TriParVitesseEtSelectionCommeLesBalayagesLitteraux) {
     const int n = static_cast<int>(essai < 400 ? g() % 30 : g() % 400);
     for (int k = 0; k < n; ++k) {
       const long i = Arc_(1 + g() % 5, 1 + g() % 5, modes[g() % 7]);
-      Arcs[i].Temps = static_cast<float>(k);  // tells the records apart
-      Arcs[i].Ana = static_cast<float>(100 + k);
+      // Every field tells the records apart, the days now and then of another width than seven.
+      Arc& a = Arcs[i];
+      a.Temps = static_cast<float>(k);
+      a.Longueur = static_cast<float>(k) / 2;
+      a.Ana = static_cast<float>(100 + k);
+      a.Orientation = static_cast<Booleen>(k % 2);
+      a.Minimal = static_cast<int16_t>(k % 3);
+      a.Depart = static_cast<int16_t>(k);
+      a.Arrivee = static_cast<int16_t>(-k);
+      a.Debit = static_cast<float>(3 * k);
+      a.Capacite = static_cast<float>(5 * k);
+      a.Jours.s = k % 11 == 0 ? std::to_string(k) : std::string("LMMJVSD").substr(0, 7).replace(0, 1, std::to_string(k % 10));
     }
     const Tableau<Arc> depart = Arcs;
     litteral::TrieArcsParVitesse();
@@ -102,6 +113,15 @@ TEST_F(Anamorphose, TriParVitesseEtSelectionCommeLesBalayagesLitteraux) {
     const Tableau<Arc> trie = Arcs;
     Arcs = depart;
     TrieArcsParVitesse();
+    for (long i = 1; i <= NbArcs; ++i) {
+      const Arc &a = Arcs[i], &b = trie[i];
+      ASSERT_TRUE(a.CodeOrigine == b.CodeOrigine && a.CodeDestination == b.CodeDestination &&
+                  a.IndiceOrigine == b.IndiceOrigine && a.IndiceDestination == b.IndiceDestination && a.Mode == b.Mode &&
+                  a.Orientation == b.Orientation && a.Longueur == b.Longueur && a.Temps == b.Temps &&
+                  a.Minimal == b.Minimal && a.Depart == b.Depart && a.Arrivee == b.Arrivee && a.Jours == b.Jours &&
+                  a.Debit == b.Debit && a.Capacite == b.Capacite && a.Ana == b.Ana)
+          << "essai " << essai << ", arc " << i;
+    }
     SelectionneArcsAnamorphose();
     for (long i = 1; i <= NbArcs; ++i) {
       ASSERT_EQ(Arcs[i].Temps, trie[i].Temps) << "essai " << essai << ", arc " << i;
