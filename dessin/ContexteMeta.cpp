@@ -231,6 +231,8 @@ std::vector<uint8_t> GetMetaFileBits(HandleMeta h) {
   return it == r.fermes.end() ? std::vector<uint8_t>{} : it->second;
 }
 
+void PasseNumeroMeta() { ++LeRegistre().prochain; }
+
 bool DeleteMetaFile(HandleMeta h) { return LeRegistre().fermes.erase(h) > 0; }
 
 void LibereMetaFichiers() {
@@ -247,26 +249,23 @@ bool PlayMetaFile(Contexte* dc, HandleMeta h) {
   return PlayMetaFileOctets(dc, octets);
 }
 
-bool PlayMetaFileOctets(Contexte* dc, const std::vector<uint8_t>& octets) {
-  if (!dc || octets.size() < 2 * kMotsEnTete) return false;
-  std::vector<uint16_t> mots(octets.size() / 2);
-  for (std::size_t i = 0; i < mots.size(); ++i)
-    mots[i] = static_cast<uint16_t>(octets[2 * i] | (octets[2 * i + 1] << 8));
-  std::size_t pos = mots[1];
-  if (pos < kMotsEnTete) pos = kMotsEnTete;
-  std::vector<Objet> table(mots[5], 0);
-  Objet anciens[3] = {0, 0, 0};  // pen, brush, font in dc before the first selection
-  auto place = [&table](Objet o) {
+LecteurMeta::LecteurMeta(Contexte* dc, std::size_t objets) : dc_(dc), table_(objets, 0) {}
+
+LecteurMeta::~LecteurMeta() { Termine(); }
+
+std::size_t LecteurMeta::Joue(const uint16_t* mots, std::size_t pos, std::size_t fin) {
+  auto place = [this](Objet o) {
     std::size_t i = 0;
-    while (i < table.size() && table[i] != 0) ++i;
-    if (i == table.size()) table.push_back(0);
-    table[i] = o;
+    while (i < table_.size() && table_[i] != 0) ++i;
+    if (i == table_.size()) table_.push_back(0);
+    table_[i] = o;
   };
-  auto objet = [&table](uint16_t i) -> Objet { return i < table.size() ? table[i] : 0; };
-  while (pos + 3 <= mots.size()) {
+  auto objet = [this](uint16_t i) -> Objet { return i < table_.size() ? table_[i] : 0; };
+  Contexte* dc = dc_;
+  while (pos + 3 <= fin) {
     uint32_t taille = mots[pos] | (static_cast<uint32_t>(mots[pos + 1]) << 16);
     uint16_t fonction = mots[pos + 2];
-    if (taille < 3 || taille > mots.size() - pos || fonction == MetaFin) break;
+    if (taille < 3 || taille > fin - pos || fonction == MetaFin) break;
     const uint16_t* p = &mots[pos + 3];
     std::size_t n = taille - 3;
     auto points = [p, n]() {
@@ -297,14 +296,14 @@ bool PlayMetaFileOctets(Contexte* dc, const std::vector<uint8_t>& octets) {
           if (d && d->Genre != GenreObjet::Aucun) {
             int k = d->Genre == GenreObjet::Stylo ? 0 : d->Genre == GenreObjet::Brosse ? 1 : 2;
             Objet ancien = dc->SelectObject(o);
-            if (anciens[k] == 0) anciens[k] = ancien;
+            if (anciens_[k] == 0) anciens_[k] = ancien;
           }
         }
         break;
       case MetaDeleteObject:
-        if (n >= 1 && p[0] < table.size() && table[p[0]] != 0) {
-          DeleteObject(table[p[0]]);
-          table[p[0]] = 0;
+        if (n >= 1 && p[0] < table_.size() && table_[p[0]] != 0) {
+          DeleteObject(table_[p[0]]);
+          table_[p[0]] = 0;
         }
         break;
       case MetaMoveTo:
@@ -338,10 +337,34 @@ bool PlayMetaFileOctets(Contexte* dc, const std::vector<uint8_t>& octets) {
     }
     pos += taille;
   }
-  for (Objet a : anciens)
-    if (a != 0) dc->SelectObject(a);
-  for (Objet o : table)
+  return pos;
+}
+
+void LecteurMeta::Termine() {
+  if (!dc_) return;
+  for (Objet a : anciens_)
+    if (a != 0) dc_->SelectObject(a);
+  for (Objet o : table_)
     if (o != 0) DeleteObject(o);
+  dc_ = nullptr;
+}
+
+void LecteurMeta::JoueSuite(const Contexte* enregistrement) {
+  const auto* e = dynamic_cast<const EnregistreurMeta*>(enregistrement);
+  if (!dc_ || !e) return;
+  const std::vector<uint16_t>& mots = e->Mots();
+  suite_ = Joue(mots.data(), suite_, mots.size());
+}
+
+bool PlayMetaFileOctets(Contexte* dc, const std::vector<uint8_t>& octets) {
+  if (!dc || octets.size() < 2 * kMotsEnTete) return false;
+  std::vector<uint16_t> mots(octets.size() / 2);
+  for (std::size_t i = 0; i < mots.size(); ++i)
+    mots[i] = static_cast<uint16_t>(octets[2 * i] | (octets[2 * i + 1] << 8));
+  std::size_t pos = mots[1];
+  if (pos < kMotsEnTete) pos = kMotsEnTete;
+  LecteurMeta lecteur(dc, mots[5]);
+  lecteur.Joue(mots.data(), pos, mots.size());
   return true;
 }
 

@@ -3,6 +3,7 @@
 // life of closed metafiles: handles that can be played into any context, including another
 // recorder, and read out as the bytes of the standard format (METAHEADER, records, end record).
 #pragma once
+#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <string>
@@ -55,6 +56,8 @@ class EnregistreurMeta : public Contexte {
 
   // The whole metafile: header, the records so far and the end record.
   std::vector<uint8_t> Octets() const;
+  // The records so far, as words.
+  const std::vector<uint16_t>& Mots() const { return mots_; }
 
  private:
   void Enregistre(uint16_t fonction, const std::vector<uint16_t>& parametres);
@@ -66,6 +69,29 @@ class EnregistreurMeta : public Contexte {
   Objet stylo_, brosse_, police_;
 };
 
+// Plays records into a context as PlayMetaFile does, in as many parts as come: the objects that
+// the records make live from one part to the next, and at the end (Termine, or the destructor)
+// the objects selected in dc before are selected back and those the records made are deleted.
+class LecteurMeta {
+ public:
+  explicit LecteurMeta(Contexte* dc, std::size_t objets = 0);
+  ~LecteurMeta();
+  LecteurMeta(const LecteurMeta&) = delete;
+  LecteurMeta& operator=(const LecteurMeta&) = delete;
+
+  // Plays the whole records from word pos to word fin; gives where it stopped.
+  std::size_t Joue(const uint16_t* mots, std::size_t pos, std::size_t fin);
+  // Plays the records that an open recording has made since the last call.
+  void JoueSuite(const Contexte* enregistrement);
+  void Termine();
+
+ private:
+  Contexte* dc_;
+  std::vector<Objet> table_;           // the metafile's object table as played
+  Objet anciens_[3] = {0, 0, 0};       // pen, brush, font in dc before the first selection
+  std::size_t suite_ = 0;              // words of the open recording played so far
+};
+
 // CreateMetaFileA with no file name: a new recording, owned by the process until it is closed.
 Contexte* CreateMetaFile();
 // Ends a recording made by CreateMetaFile and gives its metafile; 0 when dc is not one.
@@ -75,6 +101,9 @@ HandleMeta CloseMetaFile(Contexte* dc);
 bool PlayMetaFile(Contexte* dc, HandleMeta h);
 bool PlayMetaFileOctets(Contexte* dc, const std::vector<uint8_t>& octets);
 bool DeleteMetaFile(HandleMeta h);
+// A metafile number used up, as by a metafile closed and deleted at once: the numbers that
+// follow are those they would have been.
+void PasseNumeroMeta();
 // GetMetaFileBitsEx: the bytes of a metafile, empty for a bad handle.
 std::vector<uint8_t> GetMetaFileBits(HandleMeta h);
 // SetMetaFileBitsEx: a metafile made from bytes (not checked until played).

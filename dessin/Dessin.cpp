@@ -127,6 +127,17 @@ void FermeMetaFichier() {
   }
 }
 
+void MontreMetaFichierEnCours(LecteurMeta& imaVec) {
+  if (!dynamic_cast<EnregistreurMeta*>(ContexteMeta)) {
+    FermeMetaFichier();
+    OuvreMetaFichier();
+    return;
+  }
+  imaVec.JoueSuite(ContexteMeta);
+  PasseNumeroMeta();
+  ImaVec.Refresh();
+}
+
 bool ImageVectorielle() {
   EntreeMenu* m = Orva.Menu("menImageVectorielle");
   return m && m->Checked;

@@ -58,6 +58,12 @@ void OuvreMetaFichier();
 // Closes the recording into MetaFichier, makes ImaVec's context the metafile context, plays the
 // metafile on ImaVec and refreshes it.
 void FermeMetaFichier();
+// What FermeMetaFichier then OuvreMetaFichier show, without playing the recording into a new one:
+// the records since the last call are played on ImaVec through `imaVec` (made on ImaVec.hDC()),
+// which already shows those before them, and the recording goes on. The pixels of ImaVec are
+// those of a whole play, which draws again what is there already; the metafile numbers go on
+// as if one had been closed.
+void MontreMetaFichierEnCours(LecteurMeta& imaVec);
 
 // The layer protocol. A layer reads ImageVectorielle() for each element; it begins with
 // DebutCouche() (when ticked: MetaFichierFerme False and OuvreMetaFichier; returns the tick)

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
@@ -546,17 +547,17 @@ void TraceRelief(int, int32_t, long premier, long dernier, const Mode&) {
     const IndexMinimaux index;
     Index = &index;
     AfficheProgression(dernier, 0, kTexteTrace);
-    // 5.
+    // 5. ImaVec follows the recording node by node, each node's records played once.
+    std::optional<LecteurMeta> imaVec;
+    if (enregistrement) imaVec.emplace(ImaVec.hDC());
     for (long k = premier; k <= dernier; ++k) {
       if (k % 5 == 0) AfficheProgression(dernier, k, kTexteTrace);
       Port().DoEvents();
       const long n = OrdreNoeuds[k];
       if (Noeuds[n].Actif) BalaieNoeud(n);
-      if (EstVectorielle() && enregistrement) {
-        FermeMetaFichier();
-        OuvreMetaFichier();
-      }
+      if (EstVectorielle() && enregistrement && imaVec) MontreMetaFichierEnCours(*imaVec);
     }
+    imaVec.reset();
     Index = nullptr;
     // 6.
     AfficheProgression(dernier, dernier, kTexteTrace);

@@ -6,6 +6,11 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <set>
+#include <string>
+#include <vector>
+
+#include <QImage>
 
 #include "commun/Fixture.h"
 #include "dessin/ContexteJournal.h"
@@ -208,6 +213,70 @@ TEST_F(Metafichier, OuvertureApresFermetureContinueLEnregistrement) {
                                       "LineTo 2,9"}));
   // Every object that a play made is gone at its end; the context has its objects back.
   EXPECT_EQ(TexteObjet(j.Entrees().back().Stylo), "Stylo(0,0,0x000000)");
+}
+
+// A recording shown node by node as the relief shows it: played on ImaVec part by part, it gives
+// the pixels that closing and opening it again after each part gives (the closing plays it all,
+// the opening plays it into a new recording), and the same metafile numbers.
+TEST_F(Metafichier, SuiteMontreeCommeFermetureEtReouverture) {
+  auto dessine = [](int partie) {
+    for (int k = 0; k < 4; ++k) {
+      const int x = 10 + 37 * partie + 5 * k, y = 20 + 11 * k;
+      Ima.FillColor = 0x102030 * (partie + 1) + 0x50 * k;
+      PointsTriangle = {PointI{x, y}, PointI{x + 40, y + 3}, PointI{x + 12, y + 35}};
+      TraceTriangleMeta();
+      TraceSegmentMeta(x, y + 30, x + 60, y - 10, 0x0000FF * (k % 2) + 0x00AA00 * partie, 1 + k % 3);
+      double cx = x + 20, cy = y + 20;
+      TraceRondMeta(cx, cy, 6 + k, 0xFFFF00 - 0x100 * partie, 0x202020, 1);
+    }
+    std::string t = "N" + std::to_string(partie) + "  fin";
+    EcritTexteMeta(t, 15 + 30 * partie, 120);
+  };
+  // The pixels of ImaVec after each part and at the end.
+  auto deroule = [&](bool enChaine, std::vector<HandleMeta>& numeros) {
+    std::vector<QImage> images;
+    LibereMetaFichiers();
+    MetaFichier = 0;
+    ImaVec.Width = ImaVec.Height = 200;
+    ImaVec.Cls();
+    // A layer drawn before, that the opening plays into the recording.
+    OuvreMetaFichier();
+    TraceSegmentMeta(0, 0, 199, 199, 0xFF0000, 3);
+    FermeMetaFichier();
+    OuvreMetaFichier();
+    const HandleMeta depart = SetMetaFileBits({});  // the numbers are compared from here
+    {
+      LecteurMeta suite(ImaVec.hDC());
+      for (int partie = 0; partie < 4; ++partie) {
+        dessine(partie);
+        if (enChaine) {
+          FermeMetaFichier();
+          OuvreMetaFichier();
+        } else {
+          MontreMetaFichierEnCours(suite);
+        }
+        numeros.push_back(SetMetaFileBits({}) - depart);
+        images.push_back(ImaVec.Image().copy());
+      }
+    }
+    FermeMetaFichier();
+    numeros.push_back(MetaFichier - depart);
+    images.push_back(ImaVec.Image().copy());
+    return images;
+  };
+  std::vector<HandleMeta> enChaine, enSuite;
+  const std::vector<QImage> attendues = deroule(true, enChaine);
+  const std::vector<QImage> obtenues = deroule(false, enSuite);
+  EXPECT_EQ(enSuite, enChaine);
+  ASSERT_EQ(obtenues.size(), attendues.size());
+  for (std::size_t i = 0; i < attendues.size(); ++i) EXPECT_TRUE(obtenues[i] == attendues[i]) << "partie " << i;
+  const QImage& attendue = attendues.back();
+  // Something was drawn: the colours of the parts over the background.
+  std::set<QRgb> couleurs;
+  for (int y = 0; y < attendue.height(); ++y)
+    for (int x = 0; x < attendue.width(); ++x) couleurs.insert(attendue.pixel(x, y));
+  EXPECT_GT(couleurs.size(), 10u);
+  EXPECT_EQ(ImaVec.hDC(), ContexteMeta);
 }
 
 TEST_F(Metafichier, OctetsAbimesNeFontPasTomber) {
