@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QImage>
 #include <QInputDialog>
+#include <QTimer>
 #include <QUrl>
 #include <QMessageBox>
 #include <QMimeData>
@@ -172,6 +173,22 @@ void PortQt::Rafraichit(const std::string& controle) {
       }
     }
     return;
+  }
+  if (controle == "Ima" || controle == "ImaVec") {
+    // A picture refreshed at every node of a long pass is painted a few times a second; the last
+    // refresh held back is painted a moment later, from the event loop.
+    if (horlogeImage_.isValid() && horlogeImage_.elapsed() < 40) {
+      if (!imageEnAttente_) {
+        imageEnAttente_ = true;
+        QTimer::singleShot(50, &contexte_, [this, controle] {
+          imageEnAttente_ = false;
+          horlogeImage_.restart();
+          if (Repeint) Repeint(controle);
+        });
+      }
+      return;
+    }
+    horlogeImage_.restart();
   }
   if (Repeint) Repeint(controle);
 }

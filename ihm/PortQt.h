@@ -1,6 +1,7 @@
 // The platform port on Qt widgets.
 #pragma once
 #include <QElapsedTimer>
+#include <QObject>
 #include <QWidget>
 #include <functional>
 #include <set>
@@ -44,6 +45,9 @@ class PortQt : public Plateforme {
   std::set<std::string> modaux_;   // dialogs shown modally right now
   bool quitte_ = false;
   QElapsedTimer horloge_;  // the last repaint of DoEvents
+  QElapsedTimer horlogeImage_;  // the last repaint of a picture
+  bool imageEnAttente_ = false;  // a picture's refresh left for a moment later
+  QObject contexte_;  // the owner of that moment's timer: gone with the port
 };
 
 // Runs an action of the user under a handler, as the command's own would: a run-time error is
