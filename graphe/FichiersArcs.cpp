@@ -128,15 +128,15 @@ void ChargeArcsLong(std::istream& in, const std::string& nom) {
     while (!FinFichier(in) && i < MaxArcs) {
       const std::string l = LitLigne(in);
       Arc& a = Arcs[i];
-      a.CodeOrigine = CLng(Val(Mid(l, 1, 10)));
-      a.CodeDestination = CLng(Val(Mid(l, 12, 10)));
-      a.Mode = CInt(Val(Mid(l, 23, 4)));
-      a.Longueur = CSng(Val(Mid(l, 28, 8)));
-      a.Temps = CSng(Val(Mid(l, 37, 4)));
+      a.CodeOrigine = CLng(Val(MidVue(l, 1, 10)));
+      a.CodeDestination = CLng(Val(MidVue(l, 12, 10)));
+      a.Mode = CInt(Val(MidVue(l, 23, 4)));
+      a.Longueur = CSng(Val(MidVue(l, 28, 8)));
+      a.Temps = CSng(Val(MidVue(l, 37, 4)));
       a.Depart = Horaire(Mid(l, 42, 4));
       a.Arrivee = Horaire(Mid(l, 47, 4));
-      a.Debit = CSng(Val(Mid(l, 60, 6)));
-      a.Capacite = CSng(Val(Mid(l, 67, 6)));
+      a.Debit = CSng(Val(MidVue(l, 60, 6)));
+      a.Capacite = CSng(Val(MidVue(l, 67, 6)));
       a.Minimal = minimaux.Contient(a.Mode) ? 1 : 0;
       a.Jours = "0000000";
       ++i;
@@ -163,11 +163,11 @@ void ChargeArcsCourt(std::istream& in, const std::string& nom) {
     do {
       const std::string l = LitLigne(in);
       Arc& a = Arcs[i];
-      a.CodeOrigine = CLng(Val(Mid(l, 1, 7)));
-      a.CodeDestination = CLng(Val(Mid(l, 9, 7)));
-      a.Mode = CInt(Val(Mid(l, 16, 2)));
-      a.Longueur = CSng(Val(Mid(l, 18, 5)));
-      a.Temps = CSng(Val(Mid(l, 24, 4)));
+      a.CodeOrigine = CLng(Val(MidVue(l, 1, 7)));
+      a.CodeDestination = CLng(Val(MidVue(l, 9, 7)));
+      a.Mode = CInt(Val(MidVue(l, 16, 2)));
+      a.Longueur = CSng(Val(MidVue(l, 18, 5)));
+      a.Temps = CSng(Val(MidVue(l, 24, 4)));
       a.Minimal = a.Mode == route70 ? 1 : 0;
       ++i;
       ++n;

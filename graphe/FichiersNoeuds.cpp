@@ -139,8 +139,8 @@ void ChargeNoeudsLong(std::istream& in, const std::string& nom) {
     n = LitNoeuds(in, [](long i, const std::string& ligne) {
       Noeud& r = Noeuds[i];
       r.Nom = Mid(ligne, 1, 50);
-      r.Code = CLng(Val(Mid(ligne, 52, 10)));
-      r.Population = CLng(Val(Mid(ligne, 63, 8)));
+      r.Code = CLng(Val(MidVue(ligne, 52, 10)));
+      r.Population = CLng(Val(MidVue(ligne, 63, 8)));
       r.X = CoordonneeLongue(ligne, 72, 8);
       r.Y = CoordonneeLongue(ligne, 81, 8);
       r.Z = CoordonneeLongue(ligne, 90, 10);
@@ -163,10 +163,10 @@ void ChargeNoeudsCourt(std::istream& in, const std::string& nom) {
     n = LitNoeuds(in, [multiplicateur](long i, const std::string& ligne) {
       Noeud& r = Noeuds[i];
       r.Nom = Mid(ligne, 1, 20);
-      r.Code = CLng(Val(Mid(ligne, 20, 8)));
-      r.Population = CLng(Val(Mid(ligne, 28, 7)) * multiplicateur);
-      r.X = CSng(Val(Mid(ligne, 36, 5)));
-      r.Y = CSng(Val(Mid(ligne, 41, 5)));
+      r.Code = CLng(Val(MidVue(ligne, 20, 8)));
+      r.Population = CLng(Val(MidVue(ligne, 28, 7)) * multiplicateur);
+      r.X = CSng(Val(MidVue(ligne, 36, 5)));
+      r.Y = CSng(Val(MidVue(ligne, 41, 5)));
       r.Z = 0;
       NomsCourts[i] = Mid(ligne, 47, 20);
     });

@@ -51,7 +51,7 @@ void ListeHorairesClic() {
 
 }  // namespace
 
-double ChaineHHMMVersMinutes(const std::string& s) { return Val(Mid(s, 1, 2)) * 60 + Val(Mid(s, 3, 2)); }
+double ChaineHHMMVersMinutes(const std::string& s) { return Val(MidVue(s, 1, 2)) * 60 + Val(MidVue(s, 3, 2)); }
 
 std::string TexteHeure(double minutes) {
   const double hhmm = MinutesVersHHMM(minutes);

@@ -134,7 +134,7 @@ std::string LigneTrain(long i) {
 
 long ArcDeLigneTrain(const std::string& ligne) {
   const HeuresDeLigne h = LitHeures(ligne);
-  return TrouveArcHoraire(CLng(Val(Mid(ligne, 20, 10))), CLng(Val(Mid(ligne, 31, 10))), ModeCourant.Code, h.Depart,
+  return TrouveArcHoraire(CLng(Val(MidVue(ligne, 20, 10))), CLng(Val(MidVue(ligne, 31, 10))), ModeCourant.Code, h.Depart,
                           h.Arrivee);
 }
 

@@ -46,14 +46,16 @@ std::string Right(std::string_view s, long n) {
   return std::string(s.substr(Decalage(s, l - n)));
 }
 
-std::string Mid(std::string_view s, long debut, long n) {
+std::string_view MidVue(std::string_view s, long debut, long n) {
   if (debut < 1) Leve(ErrAppelIncorrect);
   std::size_t a = Decalage(s, debut - 1);
   if (a >= s.size()) return {};
-  if (n < 0) return std::string(s.substr(a));
+  if (n < 0) return s.substr(a);
   std::size_t b = a + Decalage(s.substr(a), n);
-  return std::string(s.substr(a, b - a));
+  return s.substr(a, b - a);
 }
+
+std::string Mid(std::string_view s, long debut, long n) { return std::string(MidVue(s, debut, n)); }
 
 std::string LTrim(std::string_view s) {
   std::size_t i = 0;

@@ -15,6 +15,8 @@ std::string Left(std::string_view s, long n);
 std::string Right(std::string_view s, long n);
 // Mid with a start counted from 1; n < 0 takes the rest.
 std::string Mid(std::string_view s, long debut, long n = -1);
+// Mid as a view into s, for a field read at once (valid while s is).
+std::string_view MidVue(std::string_view s, long debut, long n = -1);
 std::string LTrim(std::string_view s);
 std::string RTrim(std::string_view s);
 std::string Trim(std::string_view s);

@@ -15,7 +15,7 @@ namespace {
 bool EstBlancVal(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
 bool EstChiffre(char c) { return c >= '0' && c <= '9'; }
 
-double LitReel(const std::string& s) {
+double LitReel(std::string_view s) {
   if (s.empty()) return 0;
   double v = 0;
   auto r = std::from_chars(s.data(), s.data() + s.size(), v);
@@ -23,7 +23,7 @@ double LitReel(const std::string& s) {
     // Underflow gives 0; overflow is the platform's overflow error.
     bool grand = false;
     auto e = s.find_first_of("eE");
-    if (e != std::string::npos) grand = s[e + 1] != '-';
+    if (e != std::string_view::npos) grand = e + 1 >= s.size() || s[e + 1] != '-';
     else grand = true;
     if (grand) Leve(ErrDepassement);
     return 0;
@@ -33,7 +33,7 @@ double LitReel(const std::string& s) {
   return v;
 }
 
-double ValBase(const std::string& t, int base) {
+double ValBase(std::string_view t, int base) {
   // &H and &O give 16-bit values when they fit, as the platform does, else 32-bit.
   uint64_t n = 0;
   bool chiffre = false;
@@ -56,37 +56,52 @@ double ValBase(const std::string& t, int base) {
 }  // namespace
 
 double Val(std::string_view texte) {
-  std::string t;
-  t.reserve(texte.size());
+  // The text without its blanks, then the number it begins with (never longer), both on the
+  // stack when the text is short: every field of every file goes through here.
+  constexpr std::size_t kPile = 64;
+  char pileT[kPile], pileN[kPile];
+  std::string tasT, tasN;
+  char* tt = pileT;
+  char* nn = pileN;
+  if (texte.size() > kPile) {
+    tasT.resize(texte.size());
+    tasN.resize(texte.size());
+    tt = tasT.data();
+    nn = tasN.data();
+  }
+  std::size_t m = 0;
   for (char c : texte)
-    if (!EstBlancVal(c)) t += c;
+    if (!EstBlancVal(c)) tt[m++] = c;
+  const std::string_view t(tt, m);
   if (t.size() >= 2 && t[0] == '&') {
     char p = t[1];
     if (p == 'h' || p == 'H') return ValBase(t.substr(2), 16);
     if (p == 'o' || p == 'O') return ValBase(t.substr(2), 8);
     return ValBase(t.substr(1), 8);
   }
-  std::string n;
+  std::size_t k = 0;
   std::size_t i = 0;
   if (i < t.size() && (t[i] == '+' || t[i] == '-')) {
-    if (t[i] == '-') n += '-';
+    if (t[i] == '-') nn[k++] = '-';
     ++i;
   }
   bool chiffres = false;
-  while (i < t.size() && EstChiffre(t[i])) { n += t[i++]; chiffres = true; }
+  while (i < t.size() && EstChiffre(t[i])) { nn[k++] = t[i++]; chiffres = true; }
   if (i < t.size() && t[i] == '.') {
-    n += t[i++];
-    while (i < t.size() && EstChiffre(t[i])) { n += t[i++]; chiffres = true; }
+    nn[k++] = t[i++];
+    while (i < t.size() && EstChiffre(t[i])) { nn[k++] = t[i++]; chiffres = true; }
   }
   if (!chiffres) return 0;
   if (i < t.size() && (t[i] == 'e' || t[i] == 'E' || t[i] == 'd' || t[i] == 'D')) {
-    std::size_t j = i + 1;
-    std::string e = "e";
-    if (j < t.size() && (t[j] == '+' || t[j] == '-')) e += t[j++];
+    // The exponent counts only with a digit: "1e" is 1.
+    std::size_t j = i + 1, e = k;
+    nn[e++] = 'e';
+    if (j < t.size() && (t[j] == '+' || t[j] == '-')) nn[e++] = t[j++];
     bool ce = false;
-    while (j < t.size() && EstChiffre(t[j])) { e += t[j++]; ce = true; }
-    if (ce) n += e;
+    while (j < t.size() && EstChiffre(t[j])) { nn[e++] = t[j++]; ce = true; }
+    if (ce) k = e;
   }
+  const std::string_view n(nn, k);
   if (n == "-" || n == "." || n == "-.") return 0;
   double v = LitReel(n);
   return v == 0 ? 0.0 : v;  // no negative zero

@@ -42,9 +42,9 @@ void LitFichierFacettes(std::istream& in) {
   while (!FinFichier(in)) {
     const std::string ligne = LitLigne(in);
     ObjetFacette& o = ObjetsFacettes[i];
-    o.Code1 = CLng(Val(Mid(ligne, 1, 10)));
-    o.Code2 = CLng(Val(Mid(ligne, 12, 10)));
-    o.Code3 = CLng(Val(Mid(ligne, 23, 10)));
+    o.Code1 = CLng(Val(MidVue(ligne, 1, 10)));
+    o.Code2 = CLng(Val(MidVue(ligne, 12, 10)));
+    o.Code3 = CLng(Val(MidVue(ligne, 23, 10)));
     ++i;
   }
   // The last line read is left out of the count.

@@ -119,8 +119,8 @@ struct LigneNoeudVal {
 LigneNoeudVal LitLigneNoeudVal(const std::string& ligne, const Entete& e) {
   LigneNoeudVal r;
   if (e.horaire) {
-    r.code = CLng(Val(Mid(ligne, 1, 10)));
-    const double heures = Val(Mid(ligne, e.colonneHeures, 2)), minutes = Val(Mid(ligne, e.colonneHeures + 3, 2));
+    r.code = CLng(Val(MidVue(ligne, 1, 10)));
+    const double heures = Val(MidVue(ligne, e.colonneHeures, 2)), minutes = Val(MidVue(ligne, e.colonneHeures + 3, 2));
     r.valeur = CSng(HHMMVersMinutes(heures * 100 + minutes));
     return r;
   }
@@ -216,9 +216,9 @@ void ChargeArcVal(std::istream& in, Tableau<ArcVal>& table, int32_t& nombre) {
     const std::string l = LitLigne(in);
     ArcVal& a = table[i];
     a = ArcVal{};
-    a.CodeOrigine = CLng(Val(Mid(l, c.debut1, c.longueur1)));
-    a.CodeDestination = CLng(Val(Mid(l, c.debut2, c.longueur2)));
-    a.Valeur = CSng(Val(Mid(l, c.debut3, std::max(c.longueur3, 0L))));
+    a.CodeOrigine = CLng(Val(MidVue(l, c.debut1, c.longueur1)));
+    a.CodeDestination = CLng(Val(MidVue(l, c.debut2, c.longueur2)));
+    a.Valeur = CSng(Val(MidVue(l, c.debut3, std::max(c.longueur3, 0L))));
     a.Couleur = RGB(255, 0, 0);
     // A value of 0 is dropped: its place serves the next line.
     if (a.Valeur == 0) --i;

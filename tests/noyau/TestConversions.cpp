@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <clocale>
+#include <string>
 
 #include "noyau/Conversions.h"
 #include "noyau/Erreurs.h"
@@ -17,6 +18,11 @@ TEST(Val, TableDesCas) {
       {"&HFFFF", -1}, {"&O17", 15}, {"1.2.3", 1.2}, {"0000.500", 0.5}, {"-0", 0}, {"\t4", 4},
   };
   for (auto& c : cas) EXPECT_DOUBLE_EQ(Val(c.texte), c.attendu) << '"' << c.texte << '"';
+  // Texts longer than the short buffer: the same rules.
+  EXPECT_DOUBLE_EQ(Val(std::string(80, ' ') + "-12.5e1xyz"), -125);
+  EXPECT_DOUBLE_EQ(Val("1" + std::string(70, ' ') + "2"), 12);
+  EXPECT_DOUBLE_EQ(Val(std::string(100, '7')), 7.7777777777777777e99);
+  EXPECT_DOUBLE_EQ(Val("&H" + std::string(70, ' ') + "FF"), 255);
 }
 
 TEST(Val, DepassementDuReel) {
