@@ -236,10 +236,6 @@ bool Calcule(long centre) {
   return true;
 }
 
-}  // namespace
-
-namespace {
-
 // Every field of two arcs exchanged but Ana, which stays with its place.
 void EchangeSaufAna(Arc& a, Arc& b) {
   static_assert(sizeof(Arc) == 80, "a field added to Arc is exchanged here too");

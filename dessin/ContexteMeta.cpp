@@ -349,10 +349,9 @@ void LecteurMeta::Termine() {
   dc_ = nullptr;
 }
 
-void LecteurMeta::JoueSuite(const Contexte* enregistrement) {
-  const auto* e = dynamic_cast<const EnregistreurMeta*>(enregistrement);
-  if (!dc_ || !e) return;
-  const std::vector<uint16_t>& mots = e->Mots();
+void LecteurMeta::JoueSuite(const EnregistreurMeta& enregistrement) {
+  if (!dc_) return;
+  const std::vector<uint16_t>& mots = enregistrement.Mots();
   suite_ = Joue(mots.data(), suite_, mots.size());
 }
 

@@ -82,7 +82,7 @@ class LecteurMeta {
   // Plays the whole records from word pos to word fin; gives where it stopped.
   std::size_t Joue(const uint16_t* mots, std::size_t pos, std::size_t fin);
   // Plays the records that an open recording has made since the last call.
-  void JoueSuite(const Contexte* enregistrement);
+  void JoueSuite(const EnregistreurMeta& enregistrement);
   void Termine();
 
  private:

@@ -128,12 +128,13 @@ void FermeMetaFichier() {
 }
 
 void MontreMetaFichierEnCours(LecteurMeta& imaVec) {
-  if (!dynamic_cast<EnregistreurMeta*>(ContexteMeta)) {
+  const auto* enregistrement = dynamic_cast<EnregistreurMeta*>(ContexteMeta);
+  if (!enregistrement) {
     FermeMetaFichier();
     OuvreMetaFichier();
     return;
   }
-  imaVec.JoueSuite(ContexteMeta);
+  imaVec.JoueSuite(*enregistrement);
   PasseNumeroMeta();
   ImaVec.Refresh();
 }

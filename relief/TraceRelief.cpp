@@ -555,7 +555,7 @@ void TraceRelief(int, int32_t, long premier, long dernier, const Mode&) {
       Port().DoEvents();
       const long n = OrdreNoeuds[k];
       if (Noeuds[n].Actif) BalaieNoeud(n);
-      if (EstVectorielle() && enregistrement && imaVec) MontreMetaFichierEnCours(*imaVec);
+      if (EstVectorielle() && imaVec) MontreMetaFichierEnCours(*imaVec);  // there while recording
     }
     imaVec.reset();
     Index = nullptr;
